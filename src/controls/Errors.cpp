@@ -1,0 +1,33 @@
+#include "controls/Errors.h"
+
+#include <cstdio>
+
+namespace sonarium {
+namespace {
+std::function<void(const QString&)>& reporter() {
+    static std::function<void(const QString&)> r = [](const QString& what) {
+        std::fprintf(stderr, "sonarium: skipped: %s\n", what.toLocal8Bit().constData());
+    };
+    return r;
+}
+}  // namespace
+
+void setSkippedErrorReporter(std::function<void(const QString&)> r) { reporter() = std::move(r); }
+
+void reportSkippedError(const QString& what) {
+    if (reporter()) reporter()(what);
+}
+
+bool tryStep(const std::function<void()>& statement) {
+    try {
+        statement();
+        return true;
+    } catch (const RuntimeError& e) {
+        reportSkippedError(QStringLiteral("error %1: %2").arg(e.number()).arg(e.text()));
+    } catch (const std::exception& e) {
+        reportSkippedError(QString::fromLocal8Bit(e.what()));
+    }
+    return false;
+}
+
+}  // namespace sonarium

@@ -1,0 +1,98 @@
+#pragma once
+// The main window: owner of the players and nearly all of the program's procedures. Its
+// member functions are defined in the folder of the subsystem they belong to:
+//   shell/     load, initialisation, command line, focus, keys, closing, Config.dat
+//   playback/  queue, song loading, transport, fade, position, mixer, VU, alarm
+//   library/   database, tags, scanner, grid, criteria, song sets, file browser
+//   conversion/, info/, skins/  likewise.
+#include <QString>
+#include <cstdint>
+
+#include "controls/Components.h"
+#include "controls/Form.h"
+#include "shell/Form1Controls.h"
+#include "shell/Form1Menus.h"
+#include "shell/Module1.h"
+
+namespace sonarium {
+
+class FrmGeneral;
+class Form2;
+class FrmMiniPlayer;
+
+class Form1 : public Form, public Form1Controls, public Form1Menus {
+public:
+    Form1(Module1& m, Components& c, FrmGeneral& general, Form2& form2, FrmMiniPlayer& mini);
+
+    Module1& M;
+    Components& C;
+    FrmGeneral& frmGeneral;
+    Form2& form2;
+    FrmMiniPlayer& frmMiniPlayer;
+
+    // ---- Shell: start-up and shutdown ----
+    void Form_Load();
+    void Form1Init();
+    void CheckForSong();
+    void Form_Activate();
+    void Form_KeyDown(int& keyCode, int shift);
+    void Form_QueryUnload(bool& cancel);
+    void Form_Unload();
+    void mnuQuit_Click();
+    void SQuit_Click();
+    void mnuContents_Click();
+    void mnuAbout_Click();
+    // ---- Shell: Config.dat ----
+    void LoadConfig();
+    void SaveConfig();
+
+    // ---- Procedures of the other subsystems that start-up and shutdown call ----
+    void OpenMixerAtLoad();    // mixer component and ControlFound
+    void OpenPeakMeter();      // VU meter's start-up steps, with their trace
+    void InitGenre();
+    void MakeDatabase(const QString& file);
+    void InitCD();
+    void LoadMixer();
+    void SaveMixer();
+    void PlaceSliders();
+    void SendToneToMixer();
+    void Drive1_Change();
+    void SelectDrive(int drive);
+    void GetTitles();
+    void LoadSkin();
+    void LoadSkinMini();
+    void imgButon_Click(int index);
+    void UpdateRecordCount();
+    void BtnPlay_MouseUp(int button, int shift, double x, double y);
+    void BtnStop_MouseUp(int button, int shift, double x, double y);
+    void lstSongs_Click();
+
+    // ---- Form-level state ----
+    bool StopRequested = false;
+    bool Fading = false;
+    std::int16_t SavedVolume = 0;
+    std::int32_t SongLength = 0, TotalFrames = 0, FramesPerSecond = 0;
+    QString SongLengthText;
+    std::int16_t PhotoWidth = 0;
+    QString CurrentDir;
+    QString LastDir;
+    std::int32_t BarWidth = 0;
+    std::int32_t EncoderBitRate = 0, EncoderSampleRate = 0;
+    bool SearchRunning = false;
+    std::int32_t PeakMaximum = 0, LampStep = 0;
+    int DatabaseAttached = 0;  // the focus handler's own flag
+    bool closing_ = false;
+
+    // The start-up trace, Debug.dat in the current directory.
+    void traceOpen();
+    void trace(const char* word, int step);
+    void traceClose();
+
+private:
+    void wireHandlers();
+    void design();
+    QString traceText_;
+    bool traceIsOpen_ = false;
+};
+
+}  // namespace sonarium

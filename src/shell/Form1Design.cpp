@@ -1,0 +1,219 @@
+// The main window as designed: where each control stands, its size, captions and starting
+// state. Places are given in pixels here and stored in twips (15 to a pixel). The frames match
+// the pieces that a main skin cuts, so every cut lands on its control.
+#include "shell/Form1.h"
+
+namespace sonarium {
+
+namespace {
+constexpr int T = TwipsPerPixel;
+
+void place(Control& c, Control* container, int x, int y, int w, int h) {
+    c.setContainer(container);
+    c.Move(x * T, y * T, w * T, h * T);
+}
+
+void hint(Control& c, const char* text) { c.setToolTipText(QString::fromUtf8(text)); }
+}  // namespace
+
+void Form1::design() {
+    setCaption(QString());
+    Move(0, 0, 634 * T, 7200);
+
+    // The five panels that the skin paints, top to bottom.
+    place(imgStick, nullptr, 0, 0, 632, 27);
+    place(PicTopPanel, nullptr, 0, 27, 632, 146);
+    place(PicView, nullptr, 0, 173, 634, 29);
+    place(PicMixer, nullptr, 0, 202, 53, 262);
+    place(PicTitleBoxes, nullptr, 53, 202, 531, 263);
+    place(PicRightPanel, nullptr, 584, 202, 48, 262);
+    place(imgSize, &imgStick, 614, 8, 11, 11);
+    hint(imgSize, "Play bar only / full window");
+
+    // Photo, song details, song sets and the conversion panel share one place.
+    place(PanelPhoto, &PicTopPanel, 6, 9, 231, 128);
+    place(Photo, &PanelPhoto, 0, 0, 231, 128);
+    place(Image8, &PanelPhoto, 0, 0, 53, 127);
+    place(Image9, &PanelPhoto, 178, 0, 53, 127);
+    Image8.setVisible(false);
+    Image9.setVisible(false);
+    place(PanelSongInfo, &PicTopPanel, 6, 9, 231, 128);
+    const std::pair<TextBox*, int> details[] = {{&txtTitle, 30}, {&txtArtist, 30}, {&txtAlbum, 30},
+                                                {&txtYear, 4}, {&txtComment, 30}};
+    int row = 0;
+    for (auto [box, width] : details) {
+        place(*box, &PanelSongInfo, 4, 2 + row * 21, 223, 19);
+        box->setMaxLength(width);
+        ++row;
+    }
+    txtTitle.setDescription(QStringLiteral("Title"));
+    txtArtist.setDescription(QStringLiteral("Artist"));
+    txtAlbum.setDescription(QStringLiteral("Album"));
+    txtYear.setDescription(QStringLiteral("Year"));
+    txtComment.setDescription(QStringLiteral("Comment"));
+    place(cboGenre, &PanelSongInfo, 4, 107, 223, 20);
+    cboGenre.setDescription(QStringLiteral("Genre"));
+    place(lstSongSets, &PicTopPanel, 6, 9, 231, 128);
+    place(PanelCdToMP3, &PicTopPanel, 6, 9, 231, 128);
+    PanelCdToMP3.setVisible(false);
+    place(PicEncode, &PanelCdToMP3, 0, 0, 231, 128);
+    place(lblBtRate, &PanelCdToMP3, 6, 6, 70, 16);
+    lblBtRate.setCaption(QStringLiteral("BitRate"));
+    place(cboBitRate, &PanelCdToMP3, 80, 4, 80, 20);
+    for (const char* r : {"32   kHz", "40   kHz", "48   kHz", "56   kHz", "64   kHz", "80   kHz", "96   kHz",
+                          "112 kHz", "128 kHz", "160 kHz", "192 kHz", "224 kHz", "256 kHz", "320 kHz"})
+        cboBitRate.AddItem(QString::fromLatin1(r));
+    place(lblSampleRate, &PanelCdToMP3, 6, 30, 70, 16);
+    lblSampleRate.setCaption(QStringLiteral("SampleRate"));
+    place(cboSampleRate, &PanelCdToMP3, 80, 28, 80, 20);
+    for (const char* r : {"32    kHz", "44.1 kHz", "48    kHz"}) cboSampleRate.AddItem(QString::fromLatin1(r));
+    place(Label11, &PanelCdToMP3, 6, 54, 100, 16);
+    Label11.setCaption(QStringLiteral("Track start title"));
+    place(txtTrackTitle, &PanelCdToMP3, 110, 52, 110, 19);
+    txtTrackTitle.setText(QStringLiteral("Track"));
+    place(lblTrackProgress, &PanelCdToMP3, 6, 78, 150, 16);
+    lblTrackProgress.setCaption(QStringLiteral("Track Progress"));
+    place(ShapeBack, &PanelCdToMP3, 6, 96, 209, 10);
+    place(Shape1, &PanelCdToMP3, 6, 96, 0, 10);
+    place(lblBladeEncTime, &PanelCdToMP3, 6, 110, 215, 16);
+    lblBladeEncTime.setCaption(QStringLiteral(" Using Blade ...... Time"));
+    lblBladeEncTime.setVisible(false);
+
+    // Transport, time and song position.
+    place(lblSongTitile, &PicTopPanel, 246, 6, 380, 18);
+    lblSongTitile.setDescription(QStringLiteral("Song title"));
+    place(BtnPlay, &PicTopPanel, 246, 30, 42, 20);
+    place(BtnPause, &PicTopPanel, 292, 30, 42, 20);
+    place(BtnStop, &PicTopPanel, 338, 30, 42, 20);
+    place(BtnFade, &PicTopPanel, 384, 30, 42, 20);
+    hint(BtnPlay, "Play");
+    hint(BtnPause, "Pause");
+    hint(BtnStop, "Stop");
+    hint(BtnFade, "Fade");
+    place(lblTime, &PicTopPanel, 436, 28, 96, 24);
+    lblTime.setCaption(QStringLiteral("00:00"));
+    lblTime.setAlignment(Alignment::Center);
+    lblTime.setDescription(QStringLiteral("Elapsed time"));
+    place(Ball, &PicTopPanel, 546, 37, 12, 7);
+    hint(Ball, "Busy lamp");
+    place(chkLoop, &PicTopPanel, 566, 37, 12, 7);
+    hint(chkLoop, "Loop");
+    place(lblRepeat, &PicTopPanel, 582, 34, 14, 13);
+    place(cmdShuffle, &PicTopPanel, 602, 37, 12, 7);
+    hint(cmdShuffle, "Shuffle");
+    place(imgSLiderSong, &PicTopPanel, 246, 66, 196, 3);
+    place(imgButtonSong, &PicTopPanel, 246, 62, 20, 10);
+    hint(imgButtonSong, "Song position");
+    place(PanelVU, &PicTopPanel, 244, 60, 201, 15);
+    PanelVU.setVisible(false);
+    for (int i = 0; i < imgVU.size(); ++i) place(imgVU[i], &PanelVU, 5 + i * 10, 3, 8, 8);
+    place(cmdSpeedDown, &PicTopPanel, 456, 58, 15, 8);
+    place(cmdSpeedUp, &PicTopPanel, 456, 67, 15, 8);
+    hint(cmdSpeedDown, "Slower");
+    hint(cmdSpeedUp, "Faster");
+    place(lblSpeed, &PicTopPanel, 474, 58, 32, 17);
+    lblSpeed.setAlignment(Alignment::Center);
+    lblSpeed.setDescription(QStringLiteral("Speed"));
+    place(lblSpd, &PicTopPanel, 508, 61, 33, 12);
+    place(lblBitrate, &PicTopPanel, 246, 88, 60, 14);
+    lblBitrate.setDescription(QStringLiteral("Bit rate"));
+    place(lblFrequency, &PicTopPanel, 310, 88, 60, 14);
+    lblFrequency.setDescription(QStringLiteral("Frequency"));
+    place(lblSongDuration, &PicTopPanel, 374, 88, 60, 14);
+    lblSongDuration.setDescription(QStringLiteral("Song length"));
+    place(imgMS, &PicTopPanel, 440, 90, 48, 11);
+    place(lblTotTime, &PicTopPanel, 540, 88, 84, 14);
+    lblTotTime.setDescription(QStringLiteral("Queue time"));
+    place(cmdSaveTB, &PicTopPanel, 246, 113, 12, 9);
+    hint(cmdSaveTB, " Save Treble / Bass - Current Song");
+    place(cmdSaveTBDefaults, &PicTopPanel, 262, 113, 12, 9);
+    hint(cmdSaveTBDefaults, " Set as Defaults ");
+    place(chkUseInOut, &PicTopPanel, 280, 110, 16, 16);
+    hint(chkUseInOut, "Use punch in/out");
+    place(cmdSetPunchInOut, &PicTopPanel, 300, 111, 30, 15);
+    hint(cmdSetPunchInOut, "Set punch in/out");
+    place(lblPunchInOut, &PicTopPanel, 334, 113, 80, 11);
+    place(imgEncoder, &PicTopPanel, 440, 110, 159, 16);
+    imgEncoder.setVisible(false);
+    place(imgQuitEncoder, &PicTopPanel, 440, 128, 110, 15);
+    imgQuitEncoder.setVisible(false);
+
+    // The queue's commands and the drive list on the view bar.
+    place(cmdAddAll, &PicView, 6, 7, 48, 15);
+    hint(cmdAddAll, "Add all");
+    place(cmdDeleteAll, &PicView, 58, 7, 56, 15);
+    hint(cmdDeleteAll, "Delete all");
+    place(cmdDelete, &PicView, 118, 7, 83, 15);
+    hint(cmdDelete, "Delete song");
+    place(lblSongQueue, &PicView, 210, 7, 200, 15);
+    place(Drive1, &PicView, 430, 4, 198, 21);
+    Drive1.setDescription(QStringLiteral("Drive"));
+
+    // Volume, treble and bass knobs in the mixer column; their Tops follow the values.
+    place(SLiderVolume, &PicMixer, 21, 18, 11, 18);
+    place(SliderTreble, &PicMixer, 21, 100, 11, 18);
+    place(SliderBass, &PicMixer, 21, 182, 11, 18);
+    hint(SLiderVolume, "Volume");
+    hint(SliderTreble, "Treble");
+    hint(SliderBass, "Bass");
+
+    // Directory list, the twelve titles and the queue.
+    place(Dir1, &PicTitleBoxes, 6, 6, 170, 251);
+    Dir1.setDescription(QStringLiteral("Folders"));
+    for (int i = 0; i < Title.size(); ++i) {
+        place(Title[i], &PicTitleBoxes, 182, 6 + i * 21, 170, 19);
+        Title[i].setDescription(QStringLiteral("Title %1").arg(i + 1));
+    }
+    place(lstSongs, &PicTitleBoxes, 358, 6, 167, 251);
+    lstSongs.setDescription(QStringLiteral("Song queue"));
+
+    // Paging and the panel switches on the right.
+    place(cmdUp, &PicRightPanel, 7, 6, 33, 37);
+    place(cmdDown, &PicRightPanel, 7, 46, 33, 37);
+    place(imgDataBase, &PicRightPanel, 6, 92, 36, 37);
+    place(imgViewInfo, &PicRightPanel, 2, 138, 22, 37);
+    place(imgEditInfo, &PicRightPanel, 24, 138, 22, 37);
+    hint(cmdUp, "Previous titles");
+    hint(cmdDown, "Next titles");
+    hint(imgDataBase, "Database");
+    hint(imgViewInfo, "View info");
+    hint(imgEditInfo, "Edit info");
+
+    // Panels that open over the lower half.
+    place(PanelDatabase, nullptr, 0, 202, 634, 263);
+    PanelDatabase.setVisible(false);
+    place(PicDatabase, &PanelDatabase, 0, 0, 634, 263);
+    place(InfoPanel, nullptr, 0, 202, 634, 263);
+    InfoPanel.setVisible(false);
+    place(PanelAlarm, nullptr, 200, 60, 240, 200);
+    PanelAlarm.setVisible(false);
+    place(lblAlarmHeading, &PanelAlarm, 8, 6, 224, 18);
+    lblAlarmHeading.setCaption(QStringLiteral("Set Alarm Time"));
+    place(lblAlarmCaption, &PanelAlarm, 8, 28, 80, 16);
+    lblAlarmCaption.setCaption(QStringLiteral("Alarm Time "));
+    place(lblAlarmTime, &PanelAlarm, 90, 28, 60, 16);
+    place(lblHour, &PanelAlarm, 8, 48, 60, 16);
+    lblHour.setCaption(QStringLiteral("Hour"));
+    place(lblMinute, &PanelAlarm, 80, 48, 60, 16);
+    lblMinute.setCaption(QStringLiteral("Minute"));
+    place(lstHour, &PanelAlarm, 8, 66, 60, 96);
+    place(lstMinute, &PanelAlarm, 80, 66, 60, 96);
+    for (int h = 0; h <= 24; ++h) lstHour.AddItem(QStringLiteral("%1").arg(h, 2, 10, QLatin1Char('0')));
+    for (int m = 0; m <= 59; ++m) lstMinute.AddItem(QStringLiteral("%1").arg(m, 2, 10, QLatin1Char('0')));
+    place(cmdSetTimeOK, &PanelAlarm, 160, 100, 70, 24);
+    cmdSetTimeOK.setCaption(QStringLiteral("OK"));
+    place(cmdSetTimeCancel, &PanelAlarm, 160, 134, 70, 24);
+    cmdSetTimeCancel.setCaption(QStringLiteral("Cancel"));
+
+    // Source pictures and helper lists that are never seen.
+    for (Control* hidden : std::initializer_list<Control*>{
+             &imgMpeg3, &imgVUGreen, &imgVUAmber, &imgVURed, &imgVUPurple, &imgRedBall, &imgGreenBall,
+             &Indent, &Button, &ButtonBlue, &List1, &ListGen, &Fillist, &CboFontName, &CboFontSize})
+        hidden->setVisible(false);
+    List1.setSorted(true);
+    for (int size : {8, 9, 10, 11, 12, 14, 16, 18, 20, 22, 24, 26, 28, 36, 72})
+        CboFontSize.AddItem(QString::number(size));
+    Fillist.setPattern(QStringLiteral("*.MP3"));
+}
+
+}  // namespace sonarium

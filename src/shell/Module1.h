@@ -1,0 +1,56 @@
+#pragma once
+// The program's global state, shared by its windows.
+#include <QString>
+#include <array>
+#include <cstdint>
+#include <vector>
+
+namespace sonarium {
+
+constexpr int SongPathSize = 501;  // rows 0 to 500 have a directory
+
+struct Module1 {
+    // Shell
+    QString AppDir;  // current directory at start, no closing slash (a root keeps its own)
+    std::int16_t MiniMode = 0;
+    bool ReturnedFromMini = false;
+    QString DatabasePath;
+    QString SkinPath;
+    QString MiniSkinPath;
+    QString SelectedDir;
+    std::int16_t VUMeterOn = 0;
+    std::int16_t EncoderChoice = 0;
+    QString AlarmTime = QStringLiteral("00:00");
+
+    // Queue
+    std::array<QString, SongPathSize> SongPath;
+    std::vector<std::int32_t> PunchStart, PunchEnd;
+    std::vector<std::int16_t> PunchActive;
+    std::int16_t CurrentSong = 0;
+    bool QueueClickOff = false;
+
+    // Play state
+    bool SongPlaying = false;
+    bool SongPaused = false;
+    std::int16_t LoopMode = 0;  // 0 off, 1 whole queue, 2 same song
+    std::int16_t SongSpeed = 100;
+    bool KaraokePlaying = false;
+    QString MiniTitleText;
+    QString SongFile;
+    std::int32_t SongSeconds = 0;
+
+    // Mixer and tone
+    std::int16_t Volume = 0;
+    std::int32_t Treble = 0, Bass = 0;
+    std::int32_t DefaultTreble = 0, DefaultBass = 0;
+    std::array<std::int32_t, 2> TrebleControl{}, BassControl{};
+    std::int32_t MiniTop = 0, MiniLeft = 0;
+    std::int32_t MiniSliderTop = 690, MiniSliderBottom = 1020;
+    double MiniSliderStep = 3.3;
+
+    // Conversion
+    std::int16_t SelectedCDDrive = 0;
+    QString BladeSourceName, BladeSpacelessName;
+};
+
+}  // namespace sonarium

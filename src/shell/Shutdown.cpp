@@ -1,0 +1,46 @@
+// Closing the main window, the Quit command and the stick menu's immediate quit.
+#include "controls/Errors.h"
+#include "conversion/Form2.h"
+#include "shell/Form1.h"
+#include "shell/FrmGeneral.h"
+#include "skins/FrmMiniPlayer.h"
+
+namespace sonarium {
+
+// The window's close request. The whole close runs here, waiting for the song to end; a
+// second request while this one waits is ignored.
+void Form1::Form_QueryUnload(bool& cancel) {
+    cancel = true;  // the procedure below ends the process itself
+    if (closing_) return;
+    closing_ = true;
+    Form_Unload();
+}
+
+void Form1::Form_Unload() {
+    auto step = [](const std::function<void()>& s) { tryStep(s); };
+    step([&] { BtnStop_MouseUp(LeftButton, 0, 0, 0); });
+    // A paused song is not stopped by Stop, so this wait lasts until the user resumes it and
+    // it ends: the window stays alive meanwhile.
+    step([&] { C.loop.waitUntil([this] { return !M.SongPlaying; }); });
+    step([&] { C.mp3.Close(); });
+    step([&] { C.peak.Free(); });
+    step([&] { SaveConfig(); });
+    step([&] { SaveMixer(); });
+    step([&] { setVisible(false); });
+    step([&] { frmGeneral.Unload(); });
+    step([&] { form2.Unload(); });
+    step([&] { frmMiniPlayer.Unload(); });
+    C.desktop.quit(0);
+}
+
+// The next start opens the main window, whatever mode this one was in.
+void Form1::mnuQuit_Click() {
+    M.MiniMode = 0;
+    bool cancel = false;
+    Form_QueryUnload(cancel);
+}
+
+// Ends at once: no stop, no wait, nothing saved.
+void Form1::SQuit_Click() { C.desktop.quit(0); }
+
+}  // namespace sonarium

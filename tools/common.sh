@@ -1,0 +1,32 @@
+# Shared by run.sh and test.sh: installs what is missing from Debian's packages, then builds.
+set -euo pipefail
+
+SONARIUM_SRC=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
+SONARIUM_BUILD=${SONARIUM_BUILD:-$SONARIUM_SRC/build}
+
+# What building and running need.
+BUILD_PACKAGES=(cmake ninja-build g++ pkg-config qt6-base-dev libgl-dev libegl-dev
+                libgtest-dev fonts-dejavu-core xdg-utils)
+# What the tests need beyond that.
+TEST_PACKAGES=(xvfb xauth)
+
+as_root() {
+    if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi
+}
+
+install_missing() {
+    local missing=()
+    for p in "$@"; do
+        dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed" || missing+=("$p")
+    done
+    if [ ${#missing[@]} -gt 0 ]; then
+        echo "Installing: ${missing[*]}"
+        as_root apt-get update -qq
+        as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}"
+    fi
+}
+
+build() {
+    cmake -S "$SONARIUM_SRC" -B "$SONARIUM_BUILD" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo "$@"
+    cmake --build "$SONARIUM_BUILD" -j"$(nproc)"
+}

@@ -1,0 +1,49 @@
+#include "controls/FileListBox.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include "controls/Errors.h"
+#include "controls/FileNames.h"
+
+namespace sonarium {
+
+FileListBox::FileListBox(QString name)
+    : Control(std::move(name)), path_(QDir::cleanPath(QDir::currentPath())) {
+    readRows();
+}
+
+void FileListBox::setPath(const QString& path) {
+    const QString abs = QDir::cleanPath(path.startsWith(u'/') ? path : path_ + u'/' + path);
+    const QString target = resolveFileName(abs);
+    if (path.isEmpty() || !QFileInfo(target).isDir())
+        throw RuntimeError(RuntimeError::PathNotFound, QStringLiteral("Path not found"));
+    path_ = target;
+    Refresh();
+}
+
+void FileListBox::setPattern(const QString& pattern) {
+    pattern_ = pattern;
+    Refresh();
+}
+
+void FileListBox::setListIndex(int i) {
+    if (i < -1 || i >= ListCount())
+        throw RuntimeError(RuntimeError::InvalidPropertyValue, QStringLiteral("Invalid property value"));
+    if (i == index_) return;
+    index_ = i;
+    notify();
+    Click();
+}
+
+void FileListBox::Refresh() {
+    readRows();
+    index_ = -1;
+    notify();
+}
+
+void FileListBox::readRows() {
+    rows_ = matchFiles(path_, pattern_);
+}
+
+}  // namespace sonarium

@@ -1,0 +1,44 @@
+#pragma once
+// One of every fake, on one virtual clock, ready to hand to the program. Members are public so
+// a test scripts them directly: `tc.mp3.addFile(...)`, `tc.dialogs.answer(MsgResult::Yes)`.
+// The loop is declared first so that it outlives every fake that schedules on it.
+#include "FakeCdReader.h"
+#include "FakeDataControl.h"
+#include "FakeDesktop.h"
+#include "FakeEncoder.h"
+#include "FakeMixer.h"
+#include "FakePeakMeter.h"
+#include "FakePictureLoader.h"
+#include "FakePlayer.h"
+#include "FakeProcesses.h"
+#include "FakeVolumes.h"
+#include "ScriptedDialogs.h"
+#include "VirtualEventLoop.h"
+#include "controls/Components.h"
+
+namespace sonarium {
+
+struct TestComponents {
+    VirtualEventLoop loop;
+    ScriptedDialogs dialogs;
+    FakeDesktop desktop;
+    FakePictureLoader pictures;
+    FakeVolumes volumes;
+    FakePlayer mp3{loop};
+    FakePlayer mp32{loop};
+    FakeEncoder encoder{loop};
+    FakeCdReader cd{loop};
+    FakeMixer mixer;
+    FakePeakMeter peak;
+    FakeDataControl data;
+    FakeProcesses processes{loop};
+    QString commandLine;
+    QString startDir;
+
+    Components components() {
+        return Components{loop,  dialogs, desktop, pictures, volumes, mp3,       mp32, encoder,
+                          cd,    mixer,   peak,    data,     processes, commandLine, startDir};
+    }
+};
+
+}  // namespace sonarium

@@ -1,0 +1,135 @@
+// The Qt picture loader on small files written here: each format the program shows, palette
+// and true-colour bitmaps, the format read from the contents, names in another case, and the
+// two failures the program tells apart (no such file, not a picture).
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QImage>
+#include <QTemporaryDir>
+
+#include "QtPrinters.h"
+#include "controls/Errors.h"
+#include "engine/QtPictureLoader.h"
+
+namespace sonarium {
+namespace {
+
+constexpr std::uint32_t kRed = 0xFFFF0000u, kGreen = 0xFF00FF00u, kBlue = 0xFF0000FFu, kWhite = 0xFFFFFFFFu;
+
+// A 4 x 3 picture: top row red, green, blue, white; the rest white.
+QImage sample() {
+    QImage img(4, 3, QImage::Format_RGB32);
+    img.fill(kWhite);
+    img.setPixel(0, 0, kRed);
+    img.setPixel(1, 0, kGreen);
+    img.setPixel(2, 0, kBlue);
+    return img;
+}
+
+// A 1 x 1 GIF whose only pixel is red; Qt reads GIF but cannot write it.
+const char kRedGif[] = "GIF89a\x01\x00\x01\x00\x80\x00\x00\xFF\x00\x00\x00\x00\x00"
+                       "\x2C\x00\x00\x00\x00\x01\x00\x01\x00\x00\x02\x02\x44\x01\x00\x3B";
+
+class PictureLoaderTest : public ::testing::Test {
+protected:
+    QString path(const QString& name) const { return dir.filePath(name); }
+    void writeBytes(const QString& name, const QByteArray& bytes) {
+        QFile f(path(name));
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+        f.write(bytes);
+    }
+    // The error number and text of a load that must fail.
+    std::pair<int, QString> failure(const QString& file) {
+        try {
+            loader.load(file);
+        } catch (const RuntimeError& e) {
+            return {e.number(), e.text()};
+        }
+        ADD_FAILURE() << "loading " << file.toStdString() << " did not fail";
+        return {0, {}};
+    }
+
+    QTemporaryDir dir;
+    QtPictureLoader loader;
+};
+
+TEST_F(PictureLoaderTest, LoadsEachFormatWithExactPixelsAsArgb) {
+    struct Case {
+        const char* name;
+        const char* format;
+        QImage image;
+    };
+    const Case cases[] = {
+        {"true.BMP", "BMP", sample()},
+        {"palette.bmp", "BMP", sample().convertToFormat(QImage::Format_Indexed8)},
+        {"Photo.png", "PNG", sample()},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        ASSERT_TRUE(c.image.save(path(c.name), c.format));
+        Picture p = loader.load(path(c.name));
+        ASSERT_EQ(p.width(), 4);
+        ASSERT_EQ(p.height(), 3);
+        EXPECT_EQ(p.pixel(0, 0), kRed);
+        EXPECT_EQ(p.pixel(1, 0), kGreen);
+        EXPECT_EQ(p.pixel(2, 0), kBlue);
+        EXPECT_EQ(p.pixel(3, 2), kWhite);
+        EXPECT_EQ(p.source(), path(c.name));
+    }
+
+    writeBytes("red.gif", QByteArray(kRedGif, sizeof kRedGif - 1));
+    Picture gif = loader.load(path("red.gif"));
+    ASSERT_EQ(gif.width(), 1);
+    EXPECT_EQ(gif.pixel(0, 0), kRed);
+
+    // JPEG is lossy: a plain grey comes back within a few levels, fully opaque.
+    QImage grey(8, 8, QImage::Format_RGB32);
+    grey.fill(0xFF808080u);
+    ASSERT_TRUE(grey.save(path("grey.JPG"), "JPEG"));
+    Picture jpg = loader.load(path("grey.JPG"));
+    ASSERT_EQ(jpg.width(), 8);
+    std::uint32_t px = jpg.pixel(4, 4);
+    EXPECT_EQ(px >> 24, 0xFFu);
+    EXPECT_NEAR(int((px >> 16) & 0xFF), 0x80, 4);
+    EXPECT_NEAR(int(px & 0xFF), 0x80, 4);
+}
+
+TEST_F(PictureLoaderTest, FormatComesFromTheContentsAndNamesFromAnyCase) {
+    // A PNG named like a bitmap, as users rename files.
+    ASSERT_TRUE(sample().save(path("Cover.BMP"), "PNG"));
+    EXPECT_EQ(loader.load(path("Cover.BMP")).pixel(0, 0), kRed);
+    // The exact spelling is missing: the file is found in another case.
+    Picture p = loader.load(path("COVER.bmp"));
+    EXPECT_EQ(p.width(), 4);
+    EXPECT_EQ(p.source(), path("COVER.bmp"));
+}
+
+TEST_F(PictureLoaderTest, MissingFilesAndNonPicturesFailWithTheirOwnNumbers) {
+    auto [missing, missingText] = failure(path("nothing.jpg"));
+    EXPECT_EQ(missing, RuntimeError::FileNotFound);
+    EXPECT_TRUE(missingText.contains("nothing.jpg")) << missingText.toStdString();
+    EXPECT_EQ(failure(dir.path()).first, RuntimeError::FileNotFound);  // a directory is no file
+    EXPECT_EQ(failure(QString()).first, RuntimeError::FileNotFound);
+
+    writeBytes("notes.gif", "These are lyrics, not a picture.\r\n");
+    auto [text, textMessage] = failure(path("notes.gif"));
+    EXPECT_EQ(text, RuntimeError::InvalidPicture);
+    EXPECT_TRUE(textMessage.contains("notes.gif")) << textMessage.toStdString();
+
+    writeBytes("empty.bmp", QByteArray());
+    EXPECT_EQ(failure(path("empty.bmp")).first, RuntimeError::InvalidPicture);
+
+    // A bitmap cut short after its headers.
+    QByteArray bmp;
+    {
+        ASSERT_TRUE(sample().save(path("whole.bmp"), "BMP"));
+        QFile f(path("whole.bmp"));
+        ASSERT_TRUE(f.open(QIODevice::ReadOnly));
+        bmp = f.readAll().left(60);
+    }
+    writeBytes("cut.bmp", bmp);
+    EXPECT_EQ(failure(path("cut.bmp")).first, RuntimeError::InvalidPicture);
+}
+
+}  // namespace
+}  // namespace sonarium

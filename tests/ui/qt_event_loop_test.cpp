@@ -1,0 +1,166 @@
+// The Qt event loop keeps the same rules as the virtual one, on real time. These tests wait
+// for order and nesting only, never for exact timings, and each lasts a few tens of ms.
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QPointer>
+#include <QThread>
+#include <QTimer>
+#include <cstdio>
+#include <thread>
+
+#include "controls/Errors.h"
+#include "ui/QtEventLoop.h"
+
+namespace sonarium {
+namespace {
+
+// Records "enter X" / "exit X", indented by nesting.
+struct Nesting {
+    QStringList lines;
+    int depth = 0;
+    struct Scope {
+        Nesting& n;
+        QString what;
+        Scope(Nesting& nest, QString w) : n(nest), what(std::move(w)) {
+            n.lines << QString(n.depth++ * 2, ' ') + "enter " + what;
+        }
+        ~Scope() { n.lines << QString(--n.depth * 2, ' ') + "exit " + what; }
+    };
+};
+
+TEST(QtEventLoopTest, PostsRunInOrderOnTheUiThreadFromAnyThread) {
+    QtEventLoop loop;
+    QStringList order;
+    for (const char* name : {"a", "b", "c"}) loop.post([&order, name] { order << name; });
+    loop.doEvents();
+    EXPECT_EQ(order, QStringList({"a", "b", "c"}));
+
+    // A worker posts while the UI thread sleeps in the wait; each call runs on the UI thread.
+    std::vector<int> seen;
+    bool allOnUiThread = true;
+    QThread* ui = QThread::currentThread();
+    std::thread worker([&] {
+        std::this_thread::sleep_for(std::chrono::milliseconds(5));
+        for (int i = 0; i < 100; ++i)
+            loop.post([&, i] {
+                seen.push_back(i);
+                allOnUiThread = allOnUiThread && QThread::currentThread() == ui;
+            });
+    });
+    loop.waitUntil([&] { return seen.size() == 100; });
+    worker.join();
+    EXPECT_TRUE(allOnUiThread);
+    EXPECT_TRUE(std::is_sorted(seen.begin(), seen.end()));
+    EXPECT_GE(loop.now(), 5);
+}
+
+TEST(QtEventLoopTest, OpenTimerIsNotReenteredWhileOthersRunInsideItsWait) {
+    QtEventLoop loop;
+    bool insideA = false, reentered = false, released = false;
+    int aRuns = 0, bInsideA = 0, postsInsideA = 0;
+    const auto a = loop.startTimer(2, [&] {
+        if (insideA) reentered = true;
+        if (++aRuns > 1) return;
+        insideA = true;
+        loop.post([&] { postsInsideA += insideA; });
+        loop.waitUntil([&] { return released; });
+        insideA = false;
+    });
+    const auto b = loop.startTimer(2, [&] { bInsideA += insideA; });
+    loop.startTimer(30, [&] { released = true; }, true);
+
+    loop.waitUntil([&] { return aRuns >= 3; });  // it goes on ticking once its handler closed
+    loop.stopTimer(a);
+    loop.stopTimer(b);
+    EXPECT_FALSE(reentered);
+    EXPECT_GT(bInsideA, 0);
+    EXPECT_EQ(postsInsideA, 1);
+}
+
+TEST(QtEventLoopTest, StopTimerInsideItsOwnHandlerOrWhileItIsOpen) {
+    QtEventLoop loop;
+    int ticks = 0;
+    EventLoop::TimerId self = 0;
+    self = loop.startTimer(1, [&] {
+        if (++ticks == 2) loop.stopTimer(self);
+    });
+    bool done = false;
+    loop.startTimer(20, [&] { done = true; }, true);
+    loop.waitUntil([&] { return done; });
+    EXPECT_EQ(ticks, 2);
+
+    // Stopped from a nested handler while its own handler still waits: it never runs again,
+    // and its QTimer goes only after that handler has closed.
+    int openRuns = 0;
+    bool stoppedWhileOpen = false;
+    QPointer<QTimer> openTimer;
+    EventLoop::TimerId open = 0;
+    open = loop.startTimer(1, [&] {
+        ++openRuns;
+        loop.post([&] {
+            loop.stopTimer(open);
+            stoppedWhileOpen = !openTimer.isNull();  // still there: its handler is open
+        });
+        loop.waitUntil([&] { return stoppedWhileOpen; });
+    });
+    for (QTimer* t : loop.findChildren<QTimer*>())
+        if (t->isActive()) openTimer = t;
+    done = false;
+    loop.startTimer(20, [&] { done = true; }, true);
+    loop.waitUntil([&] { return done; });
+    EXPECT_EQ(openRuns, 1);
+    EXPECT_TRUE(stoppedWhileOpen);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    EXPECT_TRUE(openTimer.isNull());
+}
+
+// A Play that stops the current song waits for its end; the end of the stream starts the
+// next song inside that wait.
+TEST(QtEventLoopTest, NestedWaitRunsStreamEndAndNextPlayInsidePlay) {
+    QtEventLoop loop;
+    Nesting nest;
+    bool playing = true, stopping = false;
+    int started = 0;
+    std::function<void(QString)> play = [&](const QString& why) {
+        Nesting::Scope scope(nest, "Play " + why);
+        if (playing) {
+            {
+                Nesting::Scope stop(nest, "Stop");
+                stopping = true;
+                loop.startTimer(5, [&] {
+                    Nesting::Scope end(nest, "StreamEnd");
+                    playing = stopping = false;
+                    play("next");
+                }, true);
+            }
+            loop.waitUntil([&] { return !stopping; });
+        }
+        if (!playing) playing = true, ++started;
+    };
+    bool clicked = false;
+    loop.post([&] { play("click"), clicked = true; });
+    loop.waitUntil([&] { return clicked; });
+    EXPECT_EQ(nest.lines, QStringList({"enter Play click", "  enter Stop", "  exit Stop",
+                                       "  enter StreamEnd", "    enter Play next",
+                                       "    exit Play next", "  exit StreamEnd",
+                                       "exit Play click"}));
+    EXPECT_EQ(started, 1);
+}
+
+TEST(QtEventLoopTest, AFailureInAnEventIsLoggedAndTheLoopGoesOn) {
+    QtEventLoop loop;
+    QStringList reported;
+    setSkippedErrorReporter([&](const QString& what) { reported << what; });
+    bool after = false;
+    loop.post([] { throw RuntimeError(RuntimeError::FileNotFound, "File not found"); });
+    loop.post([&] { after = true; });
+    loop.waitUntil([&] { return after; });
+    setSkippedErrorReporter([](const QString& what) {
+        std::fprintf(stderr, "sonarium: skipped: %s\n", what.toLocal8Bit().constData());
+    });
+    EXPECT_EQ(reported, QStringList({"error 53: File not found"}));
+}
+
+}  // namespace
+}  // namespace sonarium

@@ -1,0 +1,399 @@
+// The drive, directory and file lists over temporary directory trees, with made-up volumes.
+#include <dirent.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include "FakeVolumes.h"
+#include "controls/DirListBox.h"
+#include "controls/DriveListBox.h"
+#include "controls/Errors.h"
+#include "controls/FileListBox.h"
+#include "controls/FileNames.h"
+
+namespace sonarium {
+namespace {
+
+class FileBrowser : public ::testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(tmp.isValid());
+        root = tmp.path();
+        a = mkdir("A");
+        b = mkdir("B");
+        volumes.add(a, "Alpha");
+        volumes.add(b, "Beta");
+    }
+
+    QString mkdir(const QString& rel) {
+        EXPECT_TRUE(QDir(root).mkpath(rel)) << rel.toStdString();
+        return root + u'/' + rel;
+    }
+    void touch(const QString& rel) {
+        QFile f(root + u'/' + rel);
+        EXPECT_TRUE(f.open(QIODevice::WriteOnly)) << rel.toStdString();
+    }
+    void symlink(const QString& target, const QString& rel) {
+        ASSERT_EQ(::symlink(QFile::encodeName(target).constData(),
+                            QFile::encodeName(root + u'/' + rel).constData()),
+                  0);
+    }
+    // The RuntimeError number `f` throws, or 0.
+    template <typename F>
+    static int errorOf(F f) {
+        try {
+            f();
+        } catch (const RuntimeError& e) {
+            return e.number();
+        }
+        return 0;
+    }
+    static QStringList rows(const DirListBox& d) {
+        QStringList r;
+        for (int i = 0; i < d.ListCount(); ++i) r << d.List(i);
+        return r;
+    }
+    static QStringList rows(const FileListBox& f) {
+        QStringList r;
+        for (int i = 0; i < f.ListCount(); ++i) r << f.List(i);
+        return r;
+    }
+
+    QTemporaryDir tmp;
+    QString root, a, b;
+    FakeVolumes volumes;
+};
+
+TEST_F(FileBrowser, DriveListFollowsVolumesAndNamesTheDriveOfAPath) {
+    const QString ab = mkdir("AB");
+    const QString nested = mkdir("A/inner");
+    volumes.add(ab);
+    volumes.add(nested);
+    DriveListBox drive("Drive1", volumes);
+    int changes = 0;
+    drive.onChange = [&] { ++changes; };
+
+    ASSERT_EQ(drive.ListCount(), 4);
+    EXPECT_EQ(drive.Drive(), a);
+    EXPECT_EQ(drive.ListIndex(), 0);
+    EXPECT_EQ(drive.Label(1), "Beta");
+
+    // The longest mount point at a path boundary: A/inner holds its own files, AB is not in A.
+    EXPECT_EQ(drive.DriveOf(a + "/inner/x/y"), nested);
+    EXPECT_EQ(drive.DriveOf(a + "/innerx"), a);
+    EXPECT_EQ(drive.DriveOf(ab + "/Music"), ab);
+    EXPECT_EQ(drive.DriveOf(a), a);
+    EXPECT_EQ(drive.DriveOf("relative/A"), "");
+    EXPECT_EQ(volumeRootOf({{"/", ""}, {"/media/usb", ""}}, "/media/usbx/a"), "/");
+    EXPECT_EQ(volumeRootOf({{"/", ""}, {"/media/usb", ""}}, "/media/usb/a"), "/media/usb");
+
+    // A path names the drive that holds it; the same drive again is no change.
+    drive.setDrive(b + "/deep/er");
+    EXPECT_EQ(drive.Drive(), b);
+    EXPECT_EQ(drive.ListIndex(), 1);
+    drive.setDrive(b);
+    EXPECT_EQ(changes, 1);
+
+    // A drive that isn't ready can be chosen: it is the directory list that fails on it.
+    volumes.setReady(a, false);
+    drive.setListIndex(0);
+    EXPECT_EQ(drive.Drive(), a);
+    EXPECT_EQ(changes, 2);
+
+    // A text on no volume fails and changes nothing.
+    EXPECT_EQ(errorOf([&] { drive.setDrive("/nowhere/at/all"); }), RuntimeError::DeviceUnavailable);
+    EXPECT_EQ(errorOf([&] { drive.setListIndex(4); }), RuntimeError::InvalidPropertyValue);
+    EXPECT_EQ(drive.Drive(), a);
+    EXPECT_EQ(changes, 2);
+
+    // A medium that arrives later is found when it is named, and Refresh drops one that left.
+    const QString usb = mkdir("usb");
+    volumes.add(usb);
+    drive.setDrive(usb + "/Songs");
+    EXPECT_EQ(drive.Drive(), usb);
+    EXPECT_EQ(drive.ListCount(), 5);
+    volumes.remove(usb);
+    drive.Refresh();
+    EXPECT_EQ(drive.ListCount(), 4);
+    EXPECT_EQ(drive.Drive(), usb);
+    EXPECT_EQ(drive.ListIndex(), -1);
+}
+
+TEST_F(FileBrowser, DriveTextMovesToThatDrivesOwnCurrentDirectory) {
+    const QString aMusic = mkdir("A/Music");
+    const QString bRock = mkdir("B/Rock");
+    DirListBox dir("Dir1", volumes);
+    QStringList seen;
+    dir.onChange = [&] { seen << dir.Path(); };
+
+    dir.setPath(a);  // a drive's text: its current directory, at first the mount point
+    dir.setPath("Music");
+    dir.setPath(b);
+    dir.setPath(bRock);
+    // Back on A: the drive's own current directory, not where the list was last on A.
+    dir.setPath(a);
+    EXPECT_EQ(seen, QStringList({a, aMusic, b, bRock, a}));
+
+    // Once a drive's current directory is set, switching drives lands there, each its own.
+    dir.setDriveDirectory(aMusic);
+    dir.setDriveDirectory(bRock);
+    EXPECT_EQ(dir.driveDirectory(a), aMusic);
+    dir.setPath(b);
+    EXPECT_EQ(dir.Path(), bRock);
+    dir.setPath(a);
+    EXPECT_EQ(dir.Path(), aMusic);
+    // A trailing slash makes it a directory, not a drive.
+    dir.setPath(a + "/");
+    EXPECT_EQ(dir.Path(), a);
+    // A drive whose current directory was removed falls back to its root.
+    dir.setPath(b);
+    ASSERT_TRUE(QDir(bRock).removeRecursively());
+    dir.setPath(a);
+    dir.setPath(b);
+    EXPECT_EQ(dir.Path(), b);
+}
+
+TEST_F(FileBrowser, FailedPathChangesNothingAndRaisesNoChange) {
+    mkdir("A/Music/Jazz");
+    mkdir("B/Rock");
+    DirListBox dir("Dir1", volumes);
+    dir.setPath(a + "/Music");
+    int changes = 0;
+    dir.onChange = [&] { ++changes; };
+    const QStringList before = rows(dir);
+
+    EXPECT_EQ(errorOf([&] { dir.setPath(a + "/Missing"); }), RuntimeError::PathNotFound);
+    EXPECT_EQ(errorOf([&] { dir.setPath("Jazz/Missing"); }), RuntimeError::PathNotFound);
+    EXPECT_EQ(errorOf([&] { dir.setPath(""); }), RuntimeError::PathNotFound);
+    touch("A/file.mp3");
+    EXPECT_EQ(errorOf([&] { dir.setPath(a + "/file.mp3"); }), RuntimeError::PathNotFound);
+
+    volumes.setReady(b, false);
+    EXPECT_EQ(errorOf([&] { dir.setPath(b); }), RuntimeError::DeviceUnavailable);
+    EXPECT_EQ(errorOf([&] { dir.setPath(b + "/Rock"); }), RuntimeError::DeviceUnavailable);
+
+    EXPECT_EQ(dir.Path(), a + "/Music");
+    EXPECT_EQ(rows(dir), before);
+    EXPECT_EQ(changes, 0);
+
+    volumes.setReady(b, true);
+    dir.setPath(b + "/Rock");
+    EXPECT_EQ(changes, 1);
+}
+
+TEST_F(FileBrowser, ChangeIsRaisedOnlyWhenThePathReallyChanges) {
+    mkdir("A/Music/Jazz");
+    mkdir("A/Music/Blues");
+    DirListBox dir("Dir1", volumes);
+    dir.setPath(a + "/Music");
+    int changes = 0;
+    QStringList rowsSeen;
+    dir.onChange = [&] { ++changes, rowsSeen = rows(dir); };
+
+    dir.setPath(a + "/Music");
+    dir.setPath(a + "/Music/");
+    dir.setPath(".");
+    dir.setPath("Jazz/..");
+    dir.setPath(dir.List(dir.ListIndex()));  // ListIndex -1 is the directory itself
+    EXPECT_EQ(changes, 0);
+
+    // The handler already sees the new directory's rows.
+    dir.setPath("Jazz");
+    EXPECT_EQ(changes, 1);
+    EXPECT_TRUE(rowsSeen.isEmpty());
+    dir.setPath("..");
+    EXPECT_EQ(changes, 2);
+    EXPECT_EQ(rowsSeen, QStringList({a + "/Music/Blues", a + "/Music/Jazz"}));
+
+    // Setting the same path still follows the disk.
+    mkdir("A/Music/Classical");
+    dir.setPath(dir.Path());
+    EXPECT_EQ(dir.ListCount(), 3);
+    EXPECT_EQ(changes, 2);
+}
+
+TEST_F(FileBrowser, PathHasNoClosingSlashButAtTheRoot) {
+    mkdir("A/Music");
+    DirListBox dir("Dir1", volumes);
+    dir.setPath(a + "/./Music/");
+    EXPECT_EQ(dir.Path(), a + "/Music");
+    EXPECT_EQ(dir.List(-1), a + "/Music");
+    EXPECT_EQ(dir.List(-2), a);
+
+    dir.setPath("/");
+    EXPECT_EQ(dir.Path(), "/");
+    EXPECT_EQ(dir.List(-1), "/");
+    EXPECT_EQ(dir.List(-2), "");
+    ASSERT_GT(dir.ListCount(), 0);
+    for (const QString& r : rows(dir)) {
+        EXPECT_TRUE(r.startsWith(u'/') && !r.startsWith(QStringLiteral("//"))) << r.toStdString();
+        EXPECT_EQ(r.count(u'/'), 1) << r.toStdString();
+    }
+    dir.setPath(a + "/../..");
+    EXPECT_EQ(dir.Path(), QDir::cleanPath(root + "/.."));
+}
+
+TEST_F(FileBrowser, SubdirectoriesAreSortedWithoutRegardToCaseAndReadOneLevel) {
+    for (const char* d : {"A/zeta", "A/Alpha", "A/beta/deep", "A/Gamma", "A/.hidden", "A/locked"}) mkdir(d);
+    touch("A/file.MP3");
+    symlink(a + "/beta", "A/Link");
+    symlink(a, "A/loop");                 // a symlink back to its own parent
+    symlink(root + "/A/self", "A/self");  // a symlink to itself
+    symlink(root + "/nothing", "A/dangling");
+    ASSERT_EQ(::chmod(QFile::encodeName(a + "/locked").constData(), 0), 0);
+
+    DirListBox dir("Dir1", volumes);
+    dir.setPath(a);
+    EXPECT_EQ(rows(dir), QStringList({a + "/Alpha", a + "/beta", a + "/Gamma", a + "/Link", a + "/locked",
+                                      a + "/loop", a + "/zeta"}));
+
+    // The loop can be walked as deep as one likes; each level reads only itself.
+    dir.setPath("loop/loop/loop");
+    EXPECT_EQ(dir.Path(), a + "/loop/loop/loop");
+    EXPECT_EQ(dir.ListCount(), 7);
+    EXPECT_EQ(dir.List(5), a + "/loop/loop/loop/loop");
+
+    // A directory we cannot read is entered, and simply has no rows.
+    dir.setPath(a + "/locked");
+    if (::geteuid() != 0) {
+        EXPECT_EQ(dir.ListCount(), 0);
+    }
+
+    // Components are found without regard to case.
+    dir.setPath(a + "/BETA/DEEP");
+    EXPECT_EQ(dir.Path(), a + "/beta/deep");
+
+    // Highlighting a row does not move the list.
+    dir.setPath(a);
+    int clicks = 0;
+    dir.onClick = [&] { ++clicks; };
+    dir.setListIndex(2);
+    EXPECT_EQ(dir.List(dir.ListIndex()), a + "/Gamma");
+    EXPECT_EQ(dir.Path(), a);
+    EXPECT_EQ(clicks, 1);
+    EXPECT_EQ(errorOf([&] { dir.setListIndex(7); }), RuntimeError::InvalidPropertyValue);
+    ::chmod(QFile::encodeName(a + "/locked").constData(), 0755);
+}
+
+// The names readdir gives, in its order: what the file list must keep.
+QStringList readdirOrder(const QString& dir) {
+    QStringList names;
+    DIR* d = ::opendir(QFile::encodeName(dir).constData());
+    while (dirent* e = ::readdir(d)) names << QFile::decodeName(e->d_name);
+    ::closedir(d);
+    return names;
+}
+
+TEST_F(FileBrowser, FileListMatchesPatternsInAnyCaseInFileSystemOrder) {
+    const char* names[] = {"song.mp3",  "Track 10.MP3", "b.Mp3",   "zz.mp3", "a.wav", "notes.txt", "README",
+                           "x.mp3.bak", ".hidden.mp3",  "m01.mp3", "m2.mp3", "Q.MP3", "c.mP3"};
+    for (const char* n : names) touch(QString("A/") + n);
+    mkdir("A/folder.mp3");
+    symlink(root + "/nothing.mp3", "A/dangling.mp3");
+
+    FileListBox files("Fillist");
+    EXPECT_EQ(files.Pattern(), "*.MP3");
+    files.setPath(a);
+    QStringList expected;
+    for (const QString& n : readdirOrder(a))
+        if (n.endsWith(".mp3", Qt::CaseInsensitive) && !n.startsWith(u'.') && n != "folder.mp3" &&
+            n != "dangling.mp3")
+            expected << n;
+    EXPECT_EQ(expected.size(), 8);
+    EXPECT_EQ(rows(files), expected);
+
+    files.setPattern("*.wav;*.TXT");
+    QStringList wavAndText = rows(files);
+    wavAndText.sort();
+    EXPECT_EQ(wavAndText, QStringList({"a.wav", "notes.txt"}));
+    files.setPattern("*.*");
+    EXPECT_EQ(files.ListCount(), 12);  // with README, which has no dot
+    files.setPattern("m?.MP3");
+    EXPECT_EQ(rows(files), QStringList({"m2.mp3"}));
+
+    // A missing directory fails and leaves the list where it was.
+    files.setListIndex(0);
+    EXPECT_EQ(files.FileName(), "m2.mp3");
+    EXPECT_EQ(errorOf([&] { files.setPath(a + "/nope"); }), RuntimeError::PathNotFound);
+    EXPECT_EQ(files.Path(), a);
+    EXPECT_EQ(rows(files), QStringList({"m2.mp3"}));
+    EXPECT_EQ(files.ListIndex(), 0);
+
+    // A new path is read afresh, even the same one, and found without regard to case.
+    touch("A/m3.mp3");
+    files.setPath(root + "/a/../a");
+    EXPECT_EQ(files.Path(), a);
+    EXPECT_EQ(files.ListCount(), 2);
+    EXPECT_EQ(files.ListIndex(), -1);
+}
+
+TEST(Wildcards, MatchWithoutRegardToCase) {
+    struct Case {
+        const char* pattern;
+        const char* name;
+        bool match;
+    } cases[] = {
+        {"*.MP3", "song.mp3", true},
+        {"*.MP3", "song.mp3.bak", false},
+        {"*.MP3", ".mp3", true},
+        {"*.mp3", "A.B.MP3", true},
+        {"*.*", "README", true},
+        {"*", "", true},
+        {"?.wav", "a.WAV", true},
+        {"?.wav", "ab.wav", false},
+        {"*a*b", "xxAyyB", true},
+        {"*a*b", "xxAyyBc", false},
+        {"a*", "", false},
+        {"[ab].mp3", "a.mp3", false},
+        {"[ab].mp3", "[AB].MP3", true},
+        {"Ärger*", "ärger.mp3", true},
+    };
+    for (const Case& c : cases)
+        EXPECT_EQ(wildcardMatch(QString::fromUtf8(c.pattern), QString::fromUtf8(c.name)), c.match)
+            << c.pattern << " vs " << c.name;
+}
+
+TEST_F(FileBrowser, FileNamesAreFoundWithoutRegardToCase) {
+    mkdir("A/Music/Rock");
+    touch("A/Music/Rock/Song.mp3");
+    touch("A/Music/Temp.WAV");
+    const QString song = a + "/Music/Rock/Song.mp3";
+
+    EXPECT_EQ(resolveFileName(song), song);
+    EXPECT_EQ(resolveFileName(a + "/Music/Rock/SONG.MP3"), song);
+    EXPECT_EQ(resolveFileName(a + "/MUSIC/rock/song.Mp3"), song);
+    EXPECT_EQ(resolveFileName(a + "/music//ROCK/"), a + "/Music/Rock/");
+    EXPECT_EQ(resolveFileName(a + "/music/temp.wav"), a + "/Music/Temp.WAV");
+    // A new file keeps its spelling, in the directory that exists.
+    EXPECT_EQ(resolveFileName(a + "/MUSIC/New.WAV"), a + "/Music/New.WAV");
+    EXPECT_EQ(resolveFileName(a + "/Nowhere/New.WAV"), a + "/Nowhere/New.WAV");
+    EXPECT_EQ(resolveFileName(a + "/music/../MUSIC/rock"), a + "/Music/../Music/Rock");
+
+    EXPECT_TRUE(fileExists(a + "/MUSIC/ROCK/song.MP3"));
+    EXPECT_FALSE(fileExists(a + "/music/rock"));  // a directory is not a file
+    EXPECT_TRUE(dirExists(a + "/music/rock"));
+    EXPECT_FALSE(fileExists(a + "/music/rock/other.mp3"));
+    EXPECT_FALSE(fileExists(""));
+
+    // Looping symlinks end quickly: the loop is walked by name, never followed for ever.
+    symlink(a, "A/loop");
+    symlink(root + "/A/self", "A/self");
+    EXPECT_EQ(resolveFileName(a + "/LOOP/loop/Music/rock/SONG.mp3"), a + "/loop/loop/Music/Rock/Song.mp3");
+    EXPECT_EQ(resolveFileName(a + "/self/x.mp3"), a + "/self/x.mp3");
+    EXPECT_FALSE(fileExists(a + "/SELF"));
+    EXPECT_TRUE(matchFiles(a + "/self", "*.*").isEmpty());
+
+    // Relative names are looked up in the current directory.
+    const QString cwd = QDir::currentPath();
+    ASSERT_TRUE(QDir::setCurrent(a + "/Music"));
+    EXPECT_EQ(resolveFileName("temp.wav"), "Temp.WAV");
+    EXPECT_EQ(resolveFileName("rock/song.mp3"), "Rock/Song.mp3");
+    QDir::setCurrent(cwd);
+}
+
+}  // namespace
+}  // namespace sonarium

@@ -1,0 +1,53 @@
+#pragma once
+// A program built on fakes in a fresh current directory, as a user's first start sees it.
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "TestComponents.h"
+#include "shell/Program.h"
+
+namespace sonarium {
+
+class ShellFixture : public ::testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(dir.isValid());
+        previous = QDir::currentPath();
+        QDir::setCurrent(dir.path());
+        tc.startDir = dir.path();
+    }
+    void TearDown() override { QDir::setCurrent(previous); }
+
+    Program& program() {
+        if (!prog) {
+            components = std::make_unique<Components>(tc.components());
+            prog = std::make_unique<Program>(*components);
+        }
+        return *prog;
+    }
+    Form1& form1() { return program().form1; }
+    Module1& M() { return program().M; }
+
+    QString path(const QString& name) const { return dir.filePath(name); }
+    QByteArray read(const QString& name) const {
+        QFile f(path(name));
+        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+    }
+    void write(const QString& name, const QByteArray& bytes) const {
+        QFile f(path(name));
+        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
+        f.write(bytes);
+    }
+
+    QTemporaryDir dir;
+    QString previous;
+    TestComponents tc;
+    std::unique_ptr<Components> components;
+    std::unique_ptr<Program> prog;
+};
+
+}  // namespace sonarium

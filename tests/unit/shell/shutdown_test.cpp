@@ -1,0 +1,68 @@
+// Closing writes Config.dat byte for byte; a paused song keeps the window waiting; SQuit saves nothing.
+#include "ShellFixture.h"
+
+using namespace sonarium;
+
+using Shutdown = ShellFixture;
+
+TEST_F(Shutdown, ClosingWritesTheTwelveSettingsByteForByte) {
+    program().Main();
+    EXPECT_FALSE(QFile::exists(path("Config.dat")));
+    EXPECT_TRUE(form1().QueryUnload() == false) << "the close runs to its end itself";
+    const QByteArray expected = " 0 \r\n 0 \r\n" + path("SonariumData.mdb").toUtf8() + "\r\n 3465 \r\n 1 \r\n" +
+                                dir.path().toUtf8() + "\r\n 0 \r\n 10000 \r\n 0 \r\n\r\n00:00\r\n 0 \r\n";
+    EXPECT_EQ(read("Config.dat"), expected);
+    EXPECT_EQ(tc.desktop.quitCode(), 0);
+    EXPECT_FALSE(form1().Visible());
+    EXPECT_TRUE(tc.mp3.calls().contains("Close"));
+    EXPECT_FALSE(tc.peak.prepared()) << "the meter's buffer is freed";
+}
+
+TEST_F(Shutdown, QuitMakesTheNextStartOpenTheMainWindow) {
+    write("Config.dat", " 1 \r\n 1 \r\n/db/Other.mdb\r\n 1920 \r\n 0 \r\n/skins/Blue\r\n 1 \r\n 20000 \r\n 1 \r\n"
+                        "/skins/Deck\r\n07:30\r\n 1 \r\n");
+    program().Main();
+    EXPECT_FALSE(form1().Visible());
+    form1().mnuQuit.Click();
+    EXPECT_EQ(read("Config.dat"), QByteArray(" 0 \r\n 1 \r\n/db/Other.mdb\r\n 1920 \r\n 0 \r\n/skins/Blue\r\n 1 \r\n"
+                                             " 20000 \r\n 1 \r\n/skins/Deck\r\n07:30\r\n 1 \r\n"));
+}
+
+TEST_F(Shutdown, APausedSongKeepsTheCloseWaitingUntilItEnds) {
+    program().Main();
+    M().SongPlaying = true;
+    M().SongPaused = true;
+    bool savedTooEarly = true;
+    tc.loop.startTimer(60000, [&] {
+        savedTooEarly = QFile::exists(path("Config.dat"));
+        M().SongPlaying = false;  // the user resumed and the song ended
+    }, true);
+    tc.loop.setWaitLimit(120000);
+    form1().QueryUnload();
+    EXPECT_FALSE(savedTooEarly);
+    EXPECT_TRUE(QFile::exists(path("Config.dat")));
+    EXPECT_GE(tc.loop.now(), 60000);
+    EXPECT_EQ(tc.desktop.quitCode(), 0);
+}
+
+TEST_F(Shutdown, ASecondCloseRequestDuringTheWaitIsIgnored) {
+    program().Main();
+    M().SongPlaying = true;
+    int quitsSeenInside = -1;
+    tc.loop.startTimer(100, [&] {
+        form1().QueryUnload();  // the user presses the close button again
+        quitsSeenInside = tc.desktop.quitCode().has_value() ? 1 : 0;
+        M().SongPlaying = false;
+    }, true);
+    form1().QueryUnload();
+    EXPECT_EQ(quitsSeenInside, 0);
+    EXPECT_EQ(tc.desktop.quitCode(), 0);
+}
+
+TEST_F(Shutdown, TheStickMenusQuitEndsAtOnceWithoutSaving) {
+    program().Main();
+    M().SongPlaying = true;
+    form1().SQuit.Click();
+    EXPECT_EQ(tc.desktop.quitCode(), 0);
+    EXPECT_FALSE(QFile::exists(path("Config.dat")));
+}

@@ -1,0 +1,148 @@
+// Start-up in its order, the command line, the focus, F4, and the ways out.
+#include "ShellFixture.h"
+
+using namespace sonarium;
+
+namespace {
+QByteArray lines(const char* word, std::initializer_list<int> steps) {
+    QByteArray out;
+    for (int s : steps) out += QByteArray(word) + ' ' + QByteArray::number(s) + "\r\n";
+    return out;
+}
+}  // namespace
+
+using StartUp = ShellFixture;
+
+TEST_F(StartUp, AFirstStartShowsTheMainWindowAndLeavesTheInitTrace) {
+    program().Main();
+    EXPECT_EQ(read("Debug.dat"), lines("Init", {1, 2, 3, 4, 5, 6, 7, 8}));
+    EXPECT_TRUE(form1().Visible());
+    EXPECT_TRUE(form1().PanelPhoto.Visible());
+    EXPECT_FALSE(program().frmGeneral.Visible()) << "the splash goes once the load is done";
+    EXPECT_FALSE(program().frmMiniPlayer.Visible());
+    EXPECT_EQ(form1().lblSpeed.Caption(), "100");
+    EXPECT_EQ(M().AppDir, dir.path());
+    EXPECT_EQ(M().DatabasePath, path("SonariumData.mdb"));
+    EXPECT_EQ(form1().PhotoWidth, 3465);
+    EXPECT_EQ(form1().tmrInfo.Interval(), 10000);
+    // No Bladeenc beside the program: the Blade entry is chosen and disabled at once.
+    EXPECT_FALSE(form1().mnuBlade.Enabled());
+    EXPECT_TRUE(form1().mnuBlade.Checked());
+    EXPECT_FALSE(form1().cboSampleRate.Visible());
+    EXPECT_TRUE(form1().mnuBladeInvisible.Checked());
+    EXPECT_EQ(form1().cboBitRate.Text(), "128 kHz");
+    EXPECT_EQ(form1().cboSampleRate.Text(), "44.1 kHz");
+    EXPECT_EQ(form1().CboFontName.ListIndex(), 0);
+    EXPECT_EQ(form1().BarWidth, 3165);
+    // Tone: bass then treble to the pairs the mixer reported; the defaults follow.
+    EXPECT_EQ(tc.mixer.calls(), QStringList({"OpenMixer", "SetControlValue(2,102,0,50)",
+                                             "SetControlValue(1,101,0,50)"}));
+    EXPECT_EQ(M().DefaultTreble, 50);
+    EXPECT_EQ(form1().SLiderVolume.Top(), 802);  // 275 + 65 * 8.1 = 801.5, to the even neighbour
+    EXPECT_EQ(form1().SliderBass.Top(), 3140);
+    EXPECT_EQ(tc.cd.selectedDrive(), 1);
+    EXPECT_EQ(tc.encoder.bitRate(), 128000);
+    EXPECT_EQ(tc.encoder.sampleRate(), 44100);
+}
+
+TEST_F(StartUp, MiniModeKeepsTheMainWindowHiddenAndLeavesTheLoadTrace) {
+    write("Config.dat", " 1 \r\n");
+    tc.commandLine = "/music/Blues/Song.mp3";
+    program().Main();
+    EXPECT_EQ(read("Debug.dat"), lines("Load", {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16}));
+    EXPECT_FALSE(form1().Visible());
+    EXPECT_TRUE(program().frmMiniPlayer.Visible());
+    // The song is queued before the mini player comes up.
+    EXPECT_EQ(form1().lstSongs.rows(), QStringList({"Song"}));
+    EXPECT_EQ(M().SongPath[0], "/music/Blues/");
+}
+
+TEST_F(StartUp, ThePeakMeterStepsStopTheTraceWhereTheyFail) {
+    write("Config.dat", " 1 \r\n");
+    tc.peak.setOpenResult(1);
+    program().Main();
+    EXPECT_EQ(read("Debug.dat"), lines("Load", {1, 2, 3, 11, 12, 13, 14, 15, 16}));
+    EXPECT_FALSE(form1().mnuVU.Enabled());
+}
+
+TEST_F(StartUp, ANoPeakControlDisablesTheMeter) {
+    write("Config.dat", " 1 \r\n");
+    tc.peak.setFindResult(false);
+    tc.peak.setMaximum(32768);
+    program().Main();
+    EXPECT_EQ(read("Debug.dat"), lines("Load", {1, 2, 3, 4, 5, 6, 11, 12, 13, 14, 15, 16}));
+    EXPECT_FALSE(form1().mnuVU.Enabled());
+}
+
+TEST_F(StartUp, TheCommandLineIsTakenWhole) {
+    struct Case {
+        const char* line;
+        QStringList rows;
+        const char* dir;
+    };
+    const Case cases[] = {
+        {"/home/me/Music/Song.mp3", {"Song"}, "/home/me/Music/"},
+        {"/home/me/My Music/A, B.MP3", {"A, B"}, "/home/me/My Music/"},
+        {"Song.Mp3", {"Song"}, ""},                  // no directory: relative to the current one
+        {"\"/home/me/Song.mp3\"", {}, ""},            // ends with a quote: ignored
+        {"/home/me/Song.wav", {}, ""},                // not an MP3: ignored
+        {"/a.mp3 /b.mp3", {"b"}, "/a.mp3 /"},        // one string, split at its last slash only
+        {"", {}, ""},
+    };
+    for (const Case& c : cases) {
+        TestComponents fresh;
+        fresh.startDir = dir.path();
+        fresh.commandLine = QString::fromUtf8(c.line);
+        Components comps = fresh.components();
+        Program p(comps);
+        p.form1.CheckForSong();
+        EXPECT_EQ(p.form1.lstSongs.rows(), c.rows) << c.line;
+        EXPECT_EQ(p.M.SongPath[0], QString::fromUtf8(c.dir)) << c.line;
+        EXPECT_EQ(p.form1.lstSongs.ListIndex(), c.rows.isEmpty() ? -1 : 0) << c.line;
+        EXPECT_TRUE(fresh.dialogs.shown().empty()) << "no message for a refused argument";
+    }
+}
+
+TEST_F(StartUp, TheFirstActivationAttachesTheLibraryAndLaterOnesOnlyThePhoto) {
+    program().Main();
+    tc.data.clearCalls();
+    form1().Activate();
+    EXPECT_EQ(tc.data.calls(), QStringList({"Close", QStringLiteral("DatabaseName=%1").arg(path("SonariumData.mdb")),
+                                            "RecordSource=SongData", "Refresh"}));
+    EXPECT_EQ(form1().DatabaseAttached, 1);
+    tc.data.clearCalls();
+    M().ReturnedFromMini = true;
+    form1().PanelPhoto.setVisible(false);
+    form1().Activate();
+    EXPECT_TRUE(tc.data.calls().isEmpty());
+    EXPECT_FALSE(M().ReturnedFromMini);
+    EXPECT_TRUE(form1().PanelPhoto.Visible());
+}
+
+TEST_F(StartUp, F4IsSwallowedUnlessTheEditorOrTheLibraryHasTheWindow) {
+    program().Main();
+    EXPECT_TRUE(form1().KeyDown(115, 0));
+    EXPECT_FALSE(form1().KeyDown(114, 0));
+    form1().mnuDatabase.setChecked(true);
+    EXPECT_FALSE(form1().KeyDown(115, 0));
+    form1().mnuDatabase.setChecked(false);
+    form1().mnuEdit.setChecked(true);
+    EXPECT_FALSE(form1().KeyDown(115, 0));
+}
+
+TEST_F(StartUp, HelpOpensTheOwnHelpPageAndAboutShowsTheSplashModally) {
+    program().Main();
+    form1().mnuContents.Click();
+    EXPECT_EQ(tc.desktop.helpOpened(), 1);
+
+    auto& general = program().frmGeneral;
+    bool seenDuringModal = false;
+    tc.loop.startTimer(50, [&] {
+        seenDuringModal = general.Visible() && general.PanelSplash.Visible() && general.SScmdOK.Visible();
+        general.SScmdOK.Click();
+    }, true);
+    form1().mnuAbout.Click();
+    EXPECT_TRUE(seenDuringModal);
+    EXPECT_FALSE(general.Visible());
+    EXPECT_FALSE(general.PanelSplash.Visible());
+}

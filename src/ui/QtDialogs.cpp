@@ -1,5 +1,7 @@
 #include "ui/QtDialogs.h"
 
+#include <QPrintDialog>
+
 #include <QColorDialog>
 #include <QCursor>
 #include <QFileDialog>
@@ -7,7 +9,6 @@
 #include <QInputDialog>
 #include <QMenu>
 #include <QMessageBox>
-#include <cstdio>
 #include <map>
 
 #include "controls/Menu.h"
@@ -170,10 +171,8 @@ std::optional<Color> QtDialogs::chooseColor(Color initial) {
 // Printing needs Qt Print Support, which the program does not link yet: the set-up answers as
 // if cancelled, and says why once.
 bool QtDialogs::printerSetup() {
-    static bool told = false;
-    if (!told) std::fprintf(stderr, "sonarium: printer set-up is not available in this build\n");
-    told = true;
-    return false;
+    QPrintDialog dialog(&printer_, parent_);
+    return dialog.exec() == QDialog::Accepted;
 }
 
 QString QtDialogs::chooseDirectory(const QString& prompt, const QString& startDir) {

@@ -3,6 +3,7 @@
 // dialogs, and popup menus built from the menu models. Each dialog is modal to the parent
 // widget set here (none at first) and runs its own nested event loop until answered.
 #include <QPointer>
+#include <QPrinter>
 #include <QStringList>
 #include <QWidget>
 
@@ -32,6 +33,8 @@ private:
     QString fileDialog(const FileDialogRequest& request, bool save);
 
     QPointer<QWidget> parent_;
+    // The printer the set-up dialog configures; the editor prints on it.
+    QPrinter printer_;
 };
 
 }  // namespace sonarium

@@ -26,7 +26,7 @@ QString childPath(const QString& dir, const QString& name) {
 }  // namespace
 
 DirListBox::DirListBox(QString name, Volumes& volumes)
-    : Control(std::move(name)), volumes_(volumes), path_(QDir::cleanPath(QDir::currentPath())) {
+    : RowList(std::move(name)), volumes_(volumes), path_(QDir::cleanPath(QDir::currentPath())) {
     readRows();
 }
 
@@ -75,15 +75,6 @@ QString DirListBox::List(int i) const {
         dir = QFileInfo(dir).path();
     }
     return dir;
-}
-
-void DirListBox::setListIndex(int i) {
-    if (i < -1 || i >= ListCount())
-        throw RuntimeError(RuntimeError::InvalidPropertyValue, QStringLiteral("Invalid property value"));
-    if (i == index_) return;
-    index_ = i;
-    notify();
-    Click();
 }
 
 void DirListBox::Refresh() {

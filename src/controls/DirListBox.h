@@ -20,12 +20,12 @@
 #include <functional>
 #include <map>
 
-#include "controls/Control.h"
+#include "controls/RowList.h"
 #include "controls/Volumes.h"
 
 namespace sonarium {
 
-class DirListBox : public Control {
+class DirListBox : public RowList {
 public:
     // Starts in the process's current directory.
     DirListBox(QString name, Volumes& volumes);
@@ -33,13 +33,10 @@ public:
     const QString& Path() const { return path_; }
     void setPath(const QString& path);
 
-    int ListCount() const { return int(rows_.size()); }
     // Row i from 0 is a subdirectory. From -1 down the rows are the directory itself and its
     // parents: List(-1) is Path, List(-2) its parent, and so on up to "/". Otherwise "".
-    QString List(int i) const;
-    // The highlighted row: -1 is the directory itself. Highlighting does not move Path.
-    int ListIndex() const { return index_; }
-    void setListIndex(int i);
+    // The highlighted row (ListIndex): -1 is the directory itself. Highlighting does not move Path.
+    QString List(int i) const override;
 
     // Reads the subdirectories of Path again; the highlight goes back to -1.
     void Refresh();
@@ -58,8 +55,6 @@ private:
 
     Volumes& volumes_;
     QString path_;
-    QStringList rows_;
-    int index_ = -1;
     std::map<QString, QString> driveDirs_;  // volume root -> its current directory
 };
 

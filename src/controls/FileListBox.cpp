@@ -9,7 +9,7 @@
 namespace sonarium {
 
 FileListBox::FileListBox(QString name)
-    : Control(std::move(name)), path_(QDir::cleanPath(QDir::currentPath())) {
+    : RowList(std::move(name)), path_(QDir::cleanPath(QDir::currentPath())) {
     readRows();
 }
 
@@ -25,15 +25,6 @@ void FileListBox::setPath(const QString& path) {
 void FileListBox::setPattern(const QString& pattern) {
     pattern_ = pattern;
     Refresh();
-}
-
-void FileListBox::setListIndex(int i) {
-    if (i < -1 || i >= ListCount())
-        throw RuntimeError(RuntimeError::InvalidPropertyValue, QStringLiteral("Invalid property value"));
-    if (i == index_) return;
-    index_ = i;
-    notify();
-    Click();
 }
 
 void FileListBox::Refresh() {

@@ -5,11 +5,11 @@
 #include <QString>
 #include <QStringList>
 
-#include "controls/Control.h"
+#include "controls/RowList.h"
 
 namespace sonarium {
 
-class FileListBox : public Control {
+class FileListBox : public RowList {
 public:
     // Starts in the process's current directory, with the pattern "*.MP3".
     explicit FileListBox(QString name);
@@ -23,12 +23,7 @@ public:
     const QString& Pattern() const { return pattern_; }
     void setPattern(const QString& pattern);
 
-    int ListCount() const { return int(rows_.size()); }
-    // The name of row i; "" outside the list.
-    QString List(int i) const { return (i >= 0 && i < rows_.size()) ? rows_[i] : QString(); }
-    // The selected row, -1 for none; a new Path or Pattern clears it.
-    int ListIndex() const { return index_; }
-    void setListIndex(int i);
+    // Rows are bare file names; a new Path or Pattern clears the selection.
     // The selected name, or "" when none is selected.
     QString FileName() const { return List(index_); }
 
@@ -40,8 +35,6 @@ private:
 
     QString path_;
     QString pattern_ = QStringLiteral("*.MP3");
-    QStringList rows_;
-    int index_ = -1;
 };
 
 }  // namespace sonarium

@@ -18,15 +18,6 @@ void ListBox::setList(int i, const QString& text) {
     notify();
 }
 
-void ListBox::setListIndex(int i) {
-    if (i < -1 || i >= rows_.size())
-        throw RuntimeError(RuntimeError::InvalidPropertyValue, QStringLiteral("Invalid property value"));
-    if (i == index_) return;
-    index_ = i;
-    notify();
-    Click();
-}
-
 void ListBox::setTopIndex(int i) {
     set(topIndex_, std::clamp(i, 0, std::max(0, int(rows_.size()) - 1)));
 }

@@ -2,22 +2,15 @@
 // A list box: rows of text, the selected row in ListIndex (-1 for none). Setting ListIndex to
 // another row fires the click, as a user's click does; an index outside -1..ListCount-1 fails.
 // A sorted list keeps its rows in alphabetical order without regard to case.
-#include <QStringList>
-
-#include "controls/Control.h"
+#include "controls/RowList.h"
 
 namespace sonarium {
 
-class ListBox : public Control {
+class ListBox : public RowList {
 public:
-    explicit ListBox(QString name, int index = -1) : Control(std::move(name), index) {}
+    explicit ListBox(QString name, int index = -1) : RowList(std::move(name), index) {}
 
-    int ListCount() const { return int(rows_.size()); }
-    // A row outside the list reads as an empty text, as the platform's list does.
-    QString List(int i) const { return (i >= 0 && i < rows_.size()) ? rows_[i] : QString(); }
     void setList(int i, const QString& text);
-    int ListIndex() const { return index_; }
-    void setListIndex(int i);
     // Text of the selected row, or "" when none is selected.
     QString Text() const { return List(index_); }
     int NewIndex() const { return newIndex_; }
@@ -31,11 +24,7 @@ public:
     void RemoveItem(int i);
     void Clear();
 
-    const QStringList& rows() const { return rows_; }
-
 protected:
-    QStringList rows_;
-    int index_ = -1;
     int newIndex_ = -1;
     int topIndex_ = 0;
     bool sorted_ = false;

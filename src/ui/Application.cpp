@@ -1,0 +1,43 @@
+#include "ui/Application.h"
+
+#include <QDir>
+#include <QGuiApplication>
+#include <QTimer>
+
+#include "ui/MainWindow.h"
+#include "ui/views/ControlSync.h"
+
+namespace sonarium {
+
+QByteArray platformFor(const QByteArray& sessionType, const QByteArray& waylandDisplay,
+                       const QByteArray& userPlatform) {
+    const bool wayland = sessionType == "wayland" || !waylandDisplay.isEmpty();
+    return wayland && userPlatform.isEmpty() ? QByteArrayLiteral("xcb") : QByteArray();
+}
+
+void Application::prepareProcess() {
+    const QByteArray platform =
+        platformFor(qgetenv("XDG_SESSION_TYPE"), qgetenv("WAYLAND_DISPLAY"), qgetenv("QT_QPA_PLATFORM"));
+    if (!platform.isEmpty()) qputenv("QT_QPA_PLATFORM", platform);
+    QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::Round);
+}
+
+QString commandLineOf(const QStringList& arguments) { return arguments.mid(1).join(QLatin1Char(' ')); }
+
+Application::Application(const QStringList& arguments)
+    : components_{loop_,  dialogs_, desktop_, pictures_, volumes_,    mp3_,
+                  mp32_,  encoder_, cd_,      mixer_,    peak_,       data_,
+                  processes_, commandLineOf(arguments), QDir::currentPath()},
+      program_(components_),
+      views_(program_),
+      signals_([this] { views_.main().requestClose(); }) {
+    dialogs_.setParentWidget(&views_.main());
+}
+
+Application::~Application() = default;
+
+void Application::start() {
+    QTimer::singleShot(0, &views_.main(), [this] { feed([this] { program_.Main(); }); });
+}
+
+}  // namespace sonarium

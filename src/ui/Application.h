@@ -1,0 +1,67 @@
+#pragma once
+// Builds the real program: the Qt event loop, dialogs and desktop, the picture loader, the
+// mounted volumes and the components (stand-ins until their engines land), the program's own
+// units, and the windows that mirror them. No singletons: each part is handed what it needs.
+// SIGTERM and SIGINT close the main window as its close button does, so settings are saved.
+#include <QStringList>
+#include <memory>
+
+#include "controls/Components.h"
+#include "engine/LinuxVolumes.h"
+#include "engine/QtPictureLoader.h"
+#include "engine/StandIns.h"
+#include "shell/Program.h"
+#include "ui/QtDesktop.h"
+#include "ui/QtDialogs.h"
+#include "ui/QtEventLoop.h"
+#include "ui/TerminationSignals.h"
+#include "ui/Views.h"
+
+namespace sonarium {
+
+class Application {
+public:
+    // Before the QApplication exists: on a Wayland session the program runs on XWayland
+    // (xcb), which can place and shape its windows, unless the user chose a platform; and
+    // high-DPI factors are rounded so skin pieces keep whole pixels.
+    static void prepareProcess();
+
+    // `arguments` as the process got them, the program's name first.
+    explicit Application(const QStringList& arguments);
+    ~Application();
+
+    // Runs the program's entry procedure once the event loop is running. The process ends
+    // when the program asks the desktop to quit.
+    void start();
+
+    Views& views() { return views_; }
+
+private:
+    QtEventLoop loop_;
+    QtDialogs dialogs_;
+    QtDesktop desktop_;
+    QtPictureLoader pictures_;
+    LinuxVolumes volumes_;
+    StandInPlayer mp3_, mp32_;
+    StandInEncoder encoder_;
+    StandInCdReader cd_;
+    StandInMixer mixer_;
+    StandInPeakMeter peak_;
+    StandInDataControl data_;
+    StandInProcesses processes_;
+    Components components_;
+    Program program_;
+    Views views_;
+    TerminationSignals signals_;
+};
+
+// The platform to ask Qt for, given the session's XDG_SESSION_TYPE and WAYLAND_DISPLAY and the
+// user's own QT_QPA_PLATFORM: "xcb" on a Wayland session the user left alone, else nothing.
+QByteArray platformFor(const QByteArray& sessionType, const QByteArray& waylandDisplay,
+                       const QByteArray& userPlatform);
+
+// The command line as the program takes it: the arguments after the program's name, joined
+// by single blanks.
+QString commandLineOf(const QStringList& arguments);
+
+}  // namespace sonarium

@@ -1,0 +1,40 @@
+#pragma once
+// A plain window for a form: its controls' views on a surface of the form's size (Width and
+// Height in twips), the window itself following the form model through a FormBinding.
+#include <QWidget>
+#include <memory>
+#include <vector>
+
+#include "ui/views/ViewFactory.h"
+
+namespace sonarium {
+
+class Control;
+class Form;
+class FormBinding;
+
+class FormWindow : public QWidget {
+public:
+    FormWindow(Form& form, const std::vector<Control*>& controls, QWidget* parent = nullptr,
+               Qt::WindowFlags flags = Qt::Window);
+    ~FormWindow() override;
+
+    Form& form() const { return form_; }
+    QWidget* viewOf(const Control& c) const { return views_.viewOf(c); }
+
+protected:
+    void closeEvent(QCloseEvent* e) override;
+    void paintEvent(QPaintEvent*) override;
+    // Before each show; flags may change here.
+    virtual void beforeShow() {}
+    FormBinding& binding() { return *binding_; }
+
+private:
+    void followSize();
+
+    Form& form_;
+    ViewFactory views_;
+    std::unique_ptr<FormBinding> binding_;
+};
+
+}  // namespace sonarium

@@ -1,0 +1,28 @@
+#include "ui/Views.h"
+
+#include <QApplication>
+
+#include "shell/Program.h"
+#include "ui/FormWindow.h"
+#include "ui/GeneralWindow.h"
+#include "ui/MainWindow.h"
+#include "ui/views/HiFiLook.h"
+
+namespace sonarium {
+
+Views::Views(Program& program) {
+    if (auto* app = qobject_cast<QApplication*>(QCoreApplication::instance())) hifi::install(*app);
+    main_ = std::make_unique<MainWindow>(program.form1);
+    // The mini player stands on its own: it is the program's window while the main one hides.
+    FrmMiniPlayer& mini = program.frmMiniPlayer;
+    std::vector<Control*> miniControls = {&mini.Photo, &mini.Picture1};
+    for (auto& lamp : mini.imgVU) miniControls.push_back(lamp.get());
+    mini_ = std::make_unique<FormWindow>(mini, miniControls);
+    general_ = std::make_unique<GeneralWindow>(program.frmGeneral, main_.get());
+    form2_ = std::make_unique<FormWindow>(program.form2, std::vector<Control*>{&program.form2.List1}, main_.get(),
+                                          Qt::Dialog);
+}
+
+Views::~Views() = default;
+
+}  // namespace sonarium

@@ -1,0 +1,34 @@
+#include "ui/views/ImageView.h"
+
+#include <QPainter>
+
+#include "ui/views/HiFiLook.h"
+
+namespace sonarium {
+
+ImageView::ImageView(Image& model, QWidget* parent)
+    : ControlView(model, parent), image_(model), box_(dynamic_cast<PictureBox*>(&model)) {}
+
+void ImageView::paintEvent(QPaintEvent*) {
+    QPainter p(this);
+    if (!painter_.paint(p, rect(), image_.picture(), image_.Stretch())) paintBlank(p);
+    if (box_ && !box_->printed().isEmpty()) {
+        p.setPen(box_->ForeColor() ? toQColor(*box_->ForeColor()) : hifi::colours::legend);
+        p.drawText(rect().adjusted(3, 2, -3, -2), Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, box_->printed());
+    }
+}
+
+void ImageView::paintBlank(QPainter& p) {
+    const QRect r = rect();
+    if (box_) {
+        hifi::paintPanel(p, r, image_.BackColor() ? toQColor(*image_.BackColor()) : hifi::colours::panel);
+    } else if (r.height() <= 4) {
+        hifi::paintGroove(p, r);
+    } else if (r.width() <= 14 && r.height() <= 14) {
+        hifi::paintLamp(p, r, false);
+    } else if (r.height() >= 40) {
+        hifi::paintDisplay(p, r);
+    }
+}
+
+}  // namespace sonarium

@@ -1,0 +1,21 @@
+#include "ui/views/PanelView.h"
+
+#include <QPainter>
+
+#include "ui/views/HiFiLook.h"
+
+namespace sonarium {
+
+PanelView::PanelView(sonarium::Panel& model, QWidget* parent) : ControlView(model, parent), panel_(model) {
+    setFrameShape(QFrame::NoFrame);
+}
+
+void PanelView::paintEvent(QPaintEvent*) {
+    QPainter p(this);
+    hifi::paintPanel(p, rect(), panel_.BackColor() ? toQColor(*panel_.BackColor()) : hifi::colours::panel);
+    if (panel_.Caption().isEmpty()) return;
+    p.setPen(panel_.ForeColor() ? toQColor(*panel_.ForeColor()) : hifi::colours::legend);
+    p.drawText(rect(), Qt::AlignCenter, panel_.Caption());
+}
+
+}  // namespace sonarium

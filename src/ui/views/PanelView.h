@@ -1,0 +1,23 @@
+#pragma once
+// A panel: the container of other views, a raised panel of the front (its back colour when the
+// model has one), with its caption centred when it has one.
+#include <QFrame>
+
+#include "controls/Widgets.h"
+#include "ui/views/ControlView.h"
+
+namespace sonarium {
+
+class PanelView : public ControlView<QFrame> {
+public:
+    PanelView(sonarium::Panel& model, QWidget* parent);
+
+protected:
+    QString caption() const override { return panel_.Caption(); }
+    void paintEvent(QPaintEvent*) override;
+
+private:
+    sonarium::Panel& panel_;
+};
+
+}  // namespace sonarium

@@ -1,0 +1,21 @@
+#include "ui/views/SliderView.h"
+
+namespace sonarium {
+
+SliderView::SliderView(Slider& model, QWidget* parent) : ControlView(model, parent), slider_(model) {
+    clickOnRelease_ = false;
+    connect(this, &QSlider::valueChanged, this, [this](int v) {
+        if (syncing_ || v == slider_.Value()) return;
+        feed([&] { slider_.setValue(v); });
+    });
+}
+
+void SliderView::syncOwn() {
+    syncing_ = true;
+    setOrientation(slider_.Height() > slider_.Width() ? Qt::Vertical : Qt::Horizontal);
+    setRange(slider_.Min(), slider_.Max());
+    setValue(slider_.Value());
+    syncing_ = false;
+}
+
+}  // namespace sonarium

@@ -1,0 +1,23 @@
+#pragma once
+// A slider: range and value follow the model; a value the user sets goes to the model, whose
+// change event fires. Upright when the control is taller than wide.
+#include <QSlider>
+
+#include "controls/Widgets.h"
+#include "ui/views/ControlView.h"
+
+namespace sonarium {
+
+class SliderView : public ControlView<QSlider> {
+public:
+    SliderView(Slider& model, QWidget* parent);
+
+protected:
+    void syncOwn() override;
+
+private:
+    Slider& slider_;
+    bool syncing_ = false;
+};
+
+}  // namespace sonarium

@@ -1,0 +1,74 @@
+#include "ui/views/TextBoxView.h"
+
+#include <QKeyEvent>
+
+namespace sonarium {
+
+int typedKeyAscii(const QKeyEvent& e) {
+    switch (e.key()) {
+    case Qt::Key_Backspace: return 8;
+    case Qt::Key_Return:
+    case Qt::Key_Enter: return 13;
+    case Qt::Key_Escape: return 27;
+    default: break;
+    }
+    if (e.modifiers() & (Qt::ControlModifier | Qt::MetaModifier)) return -1;
+    const QString t = e.text();
+    if (t.size() != 1 || t[0].unicode() < 32 || t[0].unicode() == 127) return -1;
+    return t[0].unicode();
+}
+
+TextBoxView::TextBoxView(TextBox& model, QWidget* parent) : ControlView(model, parent), box_(model) {
+    clickOnRelease_ = false;
+    connect(this, &QLineEdit::textEdited, this, [this](const QString& t) { feed([&] { box_.setText(t); }); });
+}
+
+void TextBoxView::syncOwn() {
+    setReadOnly(box_.Locked());
+    if (text() == box_.Text()) return;
+    const bool atEnd = cursorPosition() == text().size();
+    const int pos = cursorPosition();
+    setText(box_.Text());
+    setCursorPosition(atEnd ? int(text().size()) : std::min(pos, int(text().size())));
+}
+
+void TextBoxView::keyPressEvent(QKeyEvent* e) {
+    const int ascii = typedKeyAscii(*e);
+    if (ascii < 0) {
+        QLineEdit::keyPressEvent(e);
+        return;
+    }
+    e->accept();
+    const bool atEnd = cursorPosition() == text().size() && !hasSelectedText();
+    if (atEnd || ascii == 13 || ascii == 27)
+        feed([&] { box_.KeyPress(ascii); });
+    else
+        typeInside(ascii);
+}
+
+void TextBoxView::typeInside(int keyAscii) {
+    feed([&] {
+        if (box_.onKeyPress) box_.onKeyPress(keyAscii);
+    });
+    if (keyAscii == 0 || box_.Locked()) return;
+    QString t = text();
+    int from = hasSelectedText() ? selectionStart() : cursorPosition();
+    const int length = hasSelectedText() ? int(selectedText().size()) : 0;
+    t.remove(from, length);
+    if (keyAscii == 8) {
+        if (length == 0 && from > 0) t.remove(--from, 1);
+    } else if (box_.MaxLength() == 0 || t.size() < box_.MaxLength()) {
+        t.insert(from++, QChar(keyAscii));
+    }
+    feed([&] { box_.setText(t); });
+    setCursorPosition(std::min(from, int(text().size())));
+}
+
+void TextBoxView::focusOutEvent(QFocusEvent* e) {
+    QLineEdit::focusOutEvent(e);
+    // Focus that leaves with the window (another program, a menu) stays the control's own.
+    if (e->reason() != Qt::ActiveWindowFocusReason && e->reason() != Qt::PopupFocusReason)
+        feed([this] { box_.LostFocus(); });
+}
+
+}  // namespace sonarium

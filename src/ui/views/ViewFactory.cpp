@@ -1,0 +1,76 @@
+#include "ui/views/ViewFactory.h"
+
+#include "controls/DirListBox.h"
+#include "controls/DriveListBox.h"
+#include "controls/FileListBox.h"
+#include "controls/Widgets.h"
+#include "ui/views/CheckBoxView.h"
+#include "ui/views/ComboBoxView.h"
+#include "ui/views/CommandButtonView.h"
+#include "ui/views/DirListView.h"
+#include "ui/views/DriveListView.h"
+#include "ui/views/FileListView.h"
+#include "ui/views/ImageButtonView.h"
+#include "ui/views/ImageView.h"
+#include "ui/views/LabelView.h"
+#include "ui/views/ListBoxView.h"
+#include "ui/views/PanelView.h"
+#include "ui/views/SliderView.h"
+#include "ui/views/TextBoxView.h"
+
+namespace sonarium {
+
+namespace {
+
+template <class View, class Model>
+QWidget* made(Model& model, QWidget* parent) {
+    auto* v = new View(model, parent);
+    v->refresh();
+    return v;
+}
+
+// Most derived kinds first: a command button is a panel, a combo box a list box, a picture
+// box an image.
+QWidget* viewFor(Control& c, QWidget* parent) {
+    if (auto* m = dynamic_cast<CommandButton*>(&c)) return made<CommandButtonView>(*m, parent);
+    if (auto* m = dynamic_cast<Panel*>(&c)) return made<PanelView>(*m, parent);
+    if (auto* m = dynamic_cast<Image*>(&c)) {
+        const bool button = !m->ToolTipText().trimmed().isEmpty() && !dynamic_cast<PictureBox*>(m);
+        return button ? made<ImageButtonView>(*m, parent) : made<ImageView>(*m, parent);
+    }
+    if (auto* m = dynamic_cast<ComboBox*>(&c)) return made<ComboBoxView>(*m, parent);
+    if (auto* m = dynamic_cast<ListBox*>(&c)) return made<ListBoxView>(*m, parent);
+    if (auto* m = dynamic_cast<Label*>(&c)) return made<LabelView>(*m, parent);
+    if (auto* m = dynamic_cast<TextBox*>(&c)) return made<TextBoxView>(*m, parent);
+    if (auto* m = dynamic_cast<CheckBox*>(&c)) return made<CheckBoxView>(*m, parent);
+    if (auto* m = dynamic_cast<Slider*>(&c)) return made<SliderView>(*m, parent);
+    if (auto* m = dynamic_cast<DriveListBox*>(&c)) return made<DriveListView>(*m, parent);
+    if (auto* m = dynamic_cast<DirListBox*>(&c)) return made<DirListView>(*m, parent);
+    if (auto* m = dynamic_cast<FileListBox*>(&c)) return made<FileListView>(*m, parent);
+    return nullptr;  // timers, forms
+}
+
+}  // namespace
+
+void ViewFactory::build(const std::vector<Control*>& controls) {
+    for (Control* c : controls) make(*c);
+}
+
+QWidget* ViewFactory::make(Control& c) {
+    if (auto it = views_.find(&c); it != views_.end()) return it->second;
+    views_[&c] = nullptr;  // a container loop ends here instead of recursing for ever
+    QWidget* parent = &surface_;
+    if (Control* container = c.Container()) {
+        if (QWidget* v = make(*container)) parent = v;
+    }
+    QWidget* view = viewFor(c, parent);
+    views_[&c] = view;
+    return view;
+}
+
+QWidget* ViewFactory::viewOf(const Control& c) const {
+    auto it = views_.find(&c);
+    return it != views_.end() ? it->second : nullptr;
+}
+
+}  // namespace sonarium

@@ -1,0 +1,88 @@
+#pragma once
+// The program on fakes, in a fresh current directory, with the real windows mirroring it on
+// Qt's offscreen platform. Helpers send the events a user would.
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QTemporaryDir>
+#include <gtest/gtest.h>
+
+#include <memory>
+
+#include "TestComponents.h"
+#include "shell/Program.h"
+#include "ui/GeneralWindow.h"
+#include "ui/MainWindow.h"
+#include "ui/Views.h"
+
+namespace sonarium {
+
+class WindowsFixture : public ::testing::Test {
+protected:
+    void SetUp() override {
+        ASSERT_TRUE(dir.isValid());
+        previous = QDir::currentPath();
+        // The program reads the current directory as it is built (the file browser starts there).
+        QDir::setCurrent(dir.path());
+        tc.startDir = dir.path();
+        tc.volumes.add(QStringLiteral("/"), QStringLiteral("System"));
+        components = std::make_unique<Components>(tc.components());
+        program = std::make_unique<Program>(*components);
+        views = std::make_unique<Views>(*program);
+    }
+    void TearDown() override {
+        views.reset();
+        program.reset();
+        QDir::setCurrent(previous);
+    }
+
+    Form1& form1() { return program->form1; }
+    MainWindow& main() { return views->main(); }
+    // Lets Qt deliver what is pending (shows, activation, repaints).
+    static void settle() {
+        for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();
+    }
+
+    template <class W = QWidget>
+    W* find(QWidget& window, const QString& name) {
+        return window.findChild<W*>(name);
+    }
+
+    static void mouse(QWidget& w, QEvent::Type type, QPoint at, Qt::MouseButton button,
+                      Qt::KeyboardModifiers mods = Qt::NoModifier) {
+        const Qt::MouseButtons held = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::MouseButtons(button);
+        QMouseEvent e(type, QPointF(at), QPointF(w.mapToGlobal(at)), button, held, mods);
+        QCoreApplication::sendEvent(&w, &e);
+    }
+    static void click(QWidget& w, QPoint at, Qt::MouseButton button = Qt::LeftButton) {
+        mouse(w, QEvent::MouseButtonPress, at, button);
+        mouse(w, QEvent::MouseButtonRelease, at, button);
+    }
+    static void key(QWidget& w, int qtKey, const QString& text = {}, Qt::KeyboardModifiers mods = Qt::NoModifier) {
+        QKeyEvent press(QEvent::KeyPress, qtKey, mods, text);
+        QCoreApplication::sendEvent(&w, &press);
+        QKeyEvent release(QEvent::KeyRelease, qtKey, mods, text);
+        QCoreApplication::sendEvent(&w, &release);
+    }
+
+    QString path(const QString& name) const { return dir.filePath(name); }
+
+    QTemporaryDir dir;
+    QString previous;
+    TestComponents tc;
+    std::unique_ptr<Components> components;
+    std::unique_ptr<Program> program;
+    std::unique_ptr<Views> views;
+};
+
+// Saves a picture of the widget for people to look at, in the build's screenshot folder.
+inline void saveScreenshot(QWidget& w, const QString& name) {
+    const QString folder = QStringLiteral(SONARIUM_SCREENSHOT_DIR);
+    ASSERT_TRUE(QDir().mkpath(folder));
+    ASSERT_TRUE(w.grab().save(QDir(folder).filePath(name), "PNG")) << name.toStdString();
+}
+
+}  // namespace sonarium

@@ -1,0 +1,197 @@
+// Each view kind against its model: user input reaches the model in the platform's terms and
+// order, and the widget shows what the model holds, also after the model's handlers change it.
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QListWidget>
+
+#include "WindowsFixture.h"
+
+namespace sonarium {
+namespace {
+
+class ViewsTest : public WindowsFixture {
+protected:
+    void SetUp() override {
+        WindowsFixture::SetUp();
+        program->Main();
+        settle();
+    }
+    // Records the mouse and click events of a control as "down 1 0 45 30", "click"...
+    QStringList* record(Control& c) {
+        auto log = std::make_shared<QStringList>();
+        logs.push_back(log);
+        auto mouse = [log](const char* what) {
+            return [log, what](int b, int s, double x, double y) {
+                *log << QStringLiteral("%1 %2 %3 %4 %5").arg(QLatin1String(what)).arg(b).arg(s).arg(x).arg(y);
+            };
+        };
+        c.onMouseDown = mouse("down");
+        c.onMouseUp = mouse("up");
+        c.onClick = [log] { *log << "click"; };
+        c.onDblClick = [log] { *log << "dblclick"; };
+        return log.get();
+    }
+    std::vector<std::shared_ptr<QStringList>> logs;
+};
+
+TEST_F(ViewsTest, AnImageButtonReportsMouseInTwipsAndAKeyPressAsAClickInTheMiddle) {
+    auto* size = find<QAbstractButton>(main(), "imgSize");
+    ASSERT_NE(size, nullptr);
+    QStringList* log = record(form1().imgSize);
+
+    click(*size, QPoint(3, 2));
+    EXPECT_EQ(*log, QStringList({"down 1 0 45 30", "up 1 0 45 30", "click"}));
+
+    log->clear();
+    mouse(*size, QEvent::MouseButtonPress, QPoint(1, 1), Qt::RightButton, Qt::ShiftModifier);
+    mouse(*size, QEvent::MouseButtonRelease, QPoint(1, 1), Qt::RightButton, Qt::ShiftModifier);
+    EXPECT_EQ(*log, QStringList({"down 2 1 15 15", "up 2 1 15 15"}));
+
+    // Double click: the platform's order, with no second press and no second click.
+    log->clear();
+    click(*size, QPoint(0, 0));
+    mouse(*size, QEvent::MouseButtonDblClick, QPoint(0, 0), Qt::LeftButton);
+    mouse(*size, QEvent::MouseButtonRelease, QPoint(0, 0), Qt::LeftButton);
+    EXPECT_EQ(*log, QStringList({"down 1 0 0 0", "up 1 0 0 0", "click", "dblclick", "up 1 0 0 0"}));
+
+    // By keyboard or a screen reader: the handlers that act on mouse-up still run.
+    log->clear();
+    size->click();
+    EXPECT_EQ(*log, QStringList({"down 1 0 82.5 82.5", "up 1 0 82.5 82.5", "click"}));
+
+    // A hidden or disabled control takes nothing.
+    form1().imgSize.setEnabled(false);
+    EXPECT_FALSE(size->isEnabled());
+}
+
+TEST_F(ViewsTest, AListShowsTheModelAndAPickBecomesItsListIndex) {
+    auto* queue = find<QListWidget>(main(), "lstSongs");
+    ListBox& model = form1().lstSongs;
+    for (const char* s : {"One", "Two", "Three"}) model.AddItem(QString::fromLatin1(s));
+    ASSERT_EQ(queue->count(), 3);
+    EXPECT_EQ(queue->currentRow(), -1);
+    QStringList* log = record(model);
+
+    click(*queue->viewport(), queue->visualItemRect(queue->item(1)).center());
+    EXPECT_EQ(model.ListIndex(), 1);
+    ASSERT_EQ(log->size(), 3);
+    EXPECT_TRUE((*log)[0].startsWith("down 1 0"));
+    EXPECT_EQ((*log)[1], "click");
+    EXPECT_TRUE((*log)[2].startsWith("up 1 0"));
+
+    // A handler that changes the list while handling the pick: the widget shows the outcome.
+    bool once = true;
+    model.onClick = [&] {
+        if (!std::exchange(once, false)) return;
+        model.RemoveItem(0);
+        model.setListIndex(-1);
+    };
+    key(*queue, Qt::Key_Down);
+    EXPECT_EQ(queue->count(), 2);
+    EXPECT_EQ(queue->currentRow(), -1);
+    EXPECT_EQ(queue->item(0)->text(), "Two");
+
+    model.onClick = nullptr;
+    model.setListIndex(1);
+    EXPECT_EQ(queue->currentRow(), 1);
+    EXPECT_TRUE(queue->item(1)->isSelected());
+    model.Clear();
+    EXPECT_EQ(queue->count(), 0);
+}
+
+TEST_F(ViewsTest, TypingGoesThroughTheKeyPressHandlerAndMaxLengthCutsOnlyTyping) {
+    form1().PanelSongInfo.setVisible(true);
+    auto* year = find<QLineEdit>(main(), "txtYear");
+    TextBox& model = form1().txtYear;
+    // Digits only, as a year box might want.
+    model.onKeyPress = [](int& k) {
+        if (k != 8 && (k < '0' || k > '9')) k = 0;
+    };
+    for (const char* c : {"1", "9", "x", "8", "4", "5"}) key(*year, Qt::Key_unknown, QString::fromLatin1(c));
+    EXPECT_EQ(model.Text(), "1984");  // MaxLength 4
+    EXPECT_EQ(year->text(), "1984");
+    key(*year, Qt::Key_Backspace);
+    EXPECT_EQ(model.Text(), "198");
+
+    // Typing inside the text edits at the cursor, still through the handler.
+    year->setCursorPosition(1);
+    key(*year, Qt::Key_unknown, "2");
+    key(*year, Qt::Key_unknown, "y");
+    EXPECT_EQ(model.Text(), "1298");
+    // The program may set longer text than typing could.
+    model.setText(QStringLiteral("MCMLXXXIV"));
+    EXPECT_EQ(year->text(), "MCMLXXXIV");
+}
+
+TEST_F(ViewsTest, ACheckBoxAsksTheModelForTheNextValue) {
+    auto* loop = find<QAbstractButton>(main(), "chkLoop");
+    ASSERT_NE(loop, nullptr);
+    CheckBox& model = form1().chkLoop;
+    int clicks = 0;
+    model.onClick = [&] { ++clicks; };
+    loop->click();
+    EXPECT_EQ(model.Value(), 1);
+    EXPECT_TRUE(loop->isChecked());
+    loop->click();
+    EXPECT_EQ(model.Value(), 0);
+    model.setValue(2);
+    EXPECT_EQ(qobject_cast<QCheckBox*>(loop)->checkState(), Qt::PartiallyChecked);
+    loop->click();
+    EXPECT_EQ(model.Value(), 0);
+    EXPECT_EQ(clicks, 4);
+    EXPECT_EQ(loop->accessibleName(), "Loop");
+}
+
+TEST_F(ViewsTest, TheDirectoryListMovesDownAndUpByDoubleClick) {
+    QDir(dir.path()).mkpath("Music/Jazz");
+    QDir(dir.path()).mkpath("Music/Blues");
+    auto* dirs = find<QListWidget>(main(), "Dir1");
+    DirListBox& model = form1().Dir1;
+    model.setPath(dir.filePath("Music"));
+    // Parents from "/" down, the directory itself, then its subdirectories.
+    const int parents = int(QDir::cleanPath(dir.filePath("Music")).count('/')) + 1;
+    ASSERT_EQ(dirs->count(), parents + 2);
+    EXPECT_EQ(dirs->item(0)->text(), "/");
+    EXPECT_EQ(dirs->item(parents - 1)->text(), "Music");
+    EXPECT_EQ(dirs->item(parents)->text(), "Blues");
+    EXPECT_EQ(dirs->currentRow(), parents - 1);
+
+    int changes = 0;
+    model.onChange = [&] { ++changes; };
+    const QPoint jazz = dirs->visualItemRect(dirs->item(parents + 1)).center();
+    click(*dirs->viewport(), jazz);
+    EXPECT_EQ(model.ListIndex(), 1);
+    EXPECT_EQ(model.Path(), dir.filePath("Music"));
+    mouse(*dirs->viewport(), QEvent::MouseButtonDblClick, jazz, Qt::LeftButton);
+    EXPECT_EQ(model.Path(), dir.filePath("Music/Jazz"));
+    EXPECT_EQ(changes, 1);
+
+    // Up: the directory's parent row.
+    const int up = dirs->count() - 2;
+    mouse(*dirs->viewport(), QEvent::MouseButtonDblClick, dirs->visualItemRect(dirs->item(up)).center(), Qt::LeftButton);
+    EXPECT_EQ(model.Path(), dir.filePath("Music"));
+
+    QStringList* log = record(model);
+    mouse(*dirs->viewport(), QEvent::MouseButtonPress, QPoint(2, 2), Qt::RightButton);
+    ASSERT_EQ(log->size(), 1);
+    EXPECT_TRUE((*log)[0].startsWith("down 2 0"));
+}
+
+TEST_F(ViewsTest, ADropDownShowsItsRowsAndAPickFiresTheClick) {
+    form1().PanelCdToMP3.setVisible(true);
+    auto* rate = find<QComboBox>(main(), "cboBitRate");
+    ComboBox& model = form1().cboBitRate;
+    EXPECT_EQ(rate->count(), 14);
+    EXPECT_EQ(rate->currentText(), "128 kHz");
+    int clicks = 0;
+    model.onClick = [&] { ++clicks; };
+    emit rate->activated(10);
+    EXPECT_EQ(model.ListIndex(), 10);
+    EXPECT_EQ(clicks, 1);
+    EXPECT_EQ(rate->currentText(), "192 kHz");
+}
+
+}  // namespace
+}  // namespace sonarium

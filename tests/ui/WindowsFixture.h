@@ -3,43 +3,28 @@
 // Qt's offscreen platform. Helpers send the events a user would.
 #include <QAbstractButton>
 #include <QApplication>
-#include <QDir>
-#include <QFile>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QTemporaryDir>
-#include <gtest/gtest.h>
 
-#include <memory>
-
-#include "TestComponents.h"
-#include "shell/Program.h"
+#include "ProgramFixture.h"
 #include "ui/GeneralWindow.h"
 #include "ui/MainWindow.h"
 #include "ui/Views.h"
 
 namespace sonarium {
 
-class WindowsFixture : public ::testing::Test {
+class WindowsFixture : public ProgramFixture {
 protected:
     void SetUp() override {
-        ASSERT_TRUE(dir.isValid());
-        previous = QDir::currentPath();
-        // The program reads the current directory as it is built (the file browser starts there).
-        QDir::setCurrent(dir.path());
-        tc.startDir = dir.path();
+        ProgramFixture::SetUp();
         tc.volumes.add(QStringLiteral("/"), QStringLiteral("System"));
-        components = std::make_unique<Components>(tc.components());
-        program = std::make_unique<Program>(*components);
-        views = std::make_unique<Views>(*program);
+        views = std::make_unique<Views>(program());
     }
     void TearDown() override {
         views.reset();
-        program.reset();
-        QDir::setCurrent(previous);
+        ProgramFixture::TearDown();
     }
 
-    Form1& form1() { return program->form1; }
     MainWindow& main() { return views->main(); }
     // Lets Qt deliver what is pending (shows, activation, repaints).
     static void settle() {
@@ -68,13 +53,6 @@ protected:
         QCoreApplication::sendEvent(&w, &release);
     }
 
-    QString path(const QString& name) const { return dir.filePath(name); }
-
-    QTemporaryDir dir;
-    QString previous;
-    TestComponents tc;
-    std::unique_ptr<Components> components;
-    std::unique_ptr<Program> program;
     std::unique_ptr<Views> views;
 };
 

@@ -56,7 +56,7 @@ TEST_F(MainWindowTest, StartShowsTheSplashThenTheMainWindowWithItsMenusAndNames)
         EXPECT_TRUE(splash.windowFlags() & Qt::FramelessWindowHint);
         saveScreenshot(splash, "splash.png");
     });
-    program->Main();
+    program().Main();
     settle();
     EXPECT_TRUE(splashSeen);
     EXPECT_FALSE(views->general().isVisible());
@@ -120,7 +120,7 @@ TEST_F(MainWindowTest, StartShowsTheSplashThenTheMainWindowWithItsMenusAndNames)
 }
 
 TEST_F(MainWindowTest, AboutOpensTheSplashFaceModallyAndItsOkButtonClosesIt) {
-    program->Main();
+    program().Main();
     settle();
     bool seen = false;
     // The About box waits, letting events run, until it is hidden: this runs inside that wait.
@@ -141,11 +141,11 @@ TEST_F(MainWindowTest, AboutOpensTheSplashFaceModallyAndItsOkButtonClosesIt) {
     main().menus().actionOf(form1().mnuAbout)->trigger();
     EXPECT_TRUE(seen);
     EXPECT_FALSE(views->general().isVisible());
-    EXPECT_FALSE(program->frmGeneral.PanelSplash.Visible());
+    EXPECT_FALSE(program().frmGeneral.PanelSplash.Visible());
 }
 
 TEST_F(MainWindowTest, AMenuEntryRunsItsClickAndShowsTheModelsCheckMark) {
-    program->Main();
+    program().Main();
     settle();
     QAction* vu = main().menus().actionOf(form1().mnuVU);
     int clicks = 0;
@@ -171,7 +171,7 @@ TEST_F(MainWindowTest, ActivationFiresWhenTheWindowComesBackFromAnotherForm) {
         ++activations;
         programActivate();
     };
-    program->Main();
+    program().Main();
     settle();
     EXPECT_EQ(activations, 1);
     // The real loop lets window events run during the About box's wait; here the test does.
@@ -180,7 +180,7 @@ TEST_F(MainWindowTest, ActivationFiresWhenTheWindowComesBackFromAnotherForm) {
         [&] {
             settle();
             EXPECT_EQ(QGuiApplication::focusWindow(), views->general().windowHandle());
-            program->frmGeneral.SScmdOK.Click();
+            program().frmGeneral.SScmdOK.Click();
         },
         true);
     main().menus().actionOf(form1().mnuAbout)->trigger();
@@ -202,7 +202,7 @@ TEST_F(MainWindowTest, ActivationFiresWhenTheWindowComesBackFromAnotherForm) {
 }
 
 TEST_F(MainWindowTest, WindowHeightFollowsTheFormAndTheBarGoesWithTheLastMenu) {
-    program->Main();
+    program().Main();
     settle();
     QWidget* client = main().centralWidget();
     EXPECT_EQ(client->size(), QSize(634, 465));
@@ -225,7 +225,7 @@ TEST_F(MainWindowTest, WindowHeightFollowsTheFormAndTheBarGoesWithTheLastMenu) {
 }
 
 TEST_F(MainWindowTest, TheCloseRequestRunsTheProgramsCloseAndSavesTheSettings) {
-    program->Main();
+    program().Main();
     settle();
     ASSERT_FALSE(QFile::exists(path("Config.dat")));
     // The program's close cancels the window system's close and hides the window itself.
@@ -237,7 +237,7 @@ TEST_F(MainWindowTest, TheCloseRequestRunsTheProgramsCloseAndSavesTheSettings) {
 }
 
 TEST_F(MainWindowTest, KeysGoToTheFormFirstAndASwallowedKeyGoesNoFurther) {
-    program->Main();
+    program().Main();
     settle();
     QList<int> codes;
     auto programKeys = form1().onKeyDown;

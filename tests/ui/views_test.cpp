@@ -15,7 +15,7 @@ class ViewsTest : public WindowsFixture {
 protected:
     void SetUp() override {
         WindowsFixture::SetUp();
-        program->Main();
+        program().Main();
         settle();
     }
     // Records the mouse and click events of a control as "down 1 0 45 30", "click"...

@@ -1,9 +1,9 @@
 // LoadConfig and SaveConfig: defaults, short and hand-edited files, the comma shift.
-#include "ShellFixture.h"
+#include "ProgramFixture.h"
 
 using namespace sonarium;
 
-class Config : public ShellFixture {
+class Config : public ProgramFixture {
 protected:
     // The load's own state before LoadConfig, as Form1's load leaves it.
     void load(const QByteArray& file) {

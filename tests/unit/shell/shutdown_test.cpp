@@ -1,9 +1,9 @@
 // Closing writes Config.dat byte for byte; a paused song keeps the window waiting; SQuit saves nothing.
-#include "ShellFixture.h"
+#include "ProgramFixture.h"
 
 using namespace sonarium;
 
-using Shutdown = ShellFixture;
+using Shutdown = ProgramFixture;
 
 TEST_F(Shutdown, ClosingWritesTheTwelveSettingsByteForByte) {
     program().Main();

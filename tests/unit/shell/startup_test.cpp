@@ -1,5 +1,5 @@
 // Start-up in its order, the command line, the focus, F4, and the ways out.
-#include "ShellFixture.h"
+#include "ProgramFixture.h"
 
 using namespace sonarium;
 
@@ -11,7 +11,7 @@ QByteArray lines(const char* word, std::initializer_list<int> steps) {
 }
 }  // namespace
 
-using StartUp = ShellFixture;
+using StartUp = ProgramFixture;
 
 TEST_F(StartUp, AFirstStartShowsTheMainWindowAndLeavesTheInitTrace) {
     program().Main();

@@ -1,5 +1,6 @@
 #pragma once
-// A program built on fakes in a fresh current directory, as a user's first start sees it.
+// The program built on fakes in a fresh current directory, as a user's first start sees it.
+// Tests script `tc` first; the program is built on first use of program().
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -12,15 +13,19 @@
 
 namespace sonarium {
 
-class ShellFixture : public ::testing::Test {
+class ProgramFixture : public ::testing::Test {
 protected:
     void SetUp() override {
         ASSERT_TRUE(dir.isValid());
         previous = QDir::currentPath();
+        // The program reads the current directory as it is built (the file browser starts there).
         QDir::setCurrent(dir.path());
         tc.startDir = dir.path();
     }
-    void TearDown() override { QDir::setCurrent(previous); }
+    void TearDown() override {
+        prog.reset();
+        QDir::setCurrent(previous);
+    }
 
     Program& program() {
         if (!prog) {

@@ -1,0 +1,330 @@
+// The output path on generated signals: the tone shelves' response measured through the real
+// processor at two rates, the limiter at full boost, the volume curve, the per-tick peak, the
+// null sink's real-time pace, the choice of sink, and the mixer and peak meter components.
+#include <gtest/gtest.h>
+#include <unistd.h>
+
+#include <QByteArray>
+#include <QTemporaryFile>
+#include <QtGlobal>
+#include <chrono>
+#include <cmath>
+#include <cstring>
+#include <numbers>
+#include <random>
+#include <thread>
+#include <tuple>
+#include <vector>
+
+#include "QtPrinters.h"
+#include "engine/EngineMixer.h"
+#include "engine/EnginePeakMeter.h"
+#include "engine/audio/AlsaSink.h"
+#include "engine/audio/NullSink.h"
+#include "engine/audio/PulseSink.h"
+#include "engine/audio/SoundProcessor.h"
+
+namespace sonarium {
+namespace {
+
+using std::chrono::milliseconds;
+using Clock = std::chrono::steady_clock;
+
+constexpr int kBlock = 441;  // frames per process() call, as a decoder hands them over
+
+// Stereo sine, the same on both channels.
+std::vector<float> sine(double freq, double amplitude, int rate, double seconds) {
+    const int frames = static_cast<int>(seconds * rate);
+    std::vector<float> out(static_cast<std::size_t>(frames) * 2);
+    for (std::size_t i = 0; i < static_cast<std::size_t>(frames); ++i)
+        out[2 * i] = out[2 * i + 1] =
+            static_cast<float>(amplitude * std::sin(2 * std::numbers::pi * freq * i / rate));
+    return out;
+}
+
+void processInBlocks(SoundProcessor& p, std::vector<float>& samples, int rate) {
+    const int frames = static_cast<int>(samples.size() / 2);
+    for (int at = 0; at < frames; at += kBlock)
+        p.process(samples.data() + 2L * at, std::min(kBlock, frames - at), 2, rate);
+}
+
+// RMS of the left channel over the last `frames` frames.
+double tailRms(const std::vector<float>& s, int frames) {
+    double sum = 0;
+    for (std::size_t i = s.size() / 2 - frames; i < s.size() / 2; ++i) sum += double(s[2 * i]) * s[2 * i];
+    return std::sqrt(sum / frames);
+}
+
+// Gain in dB of a tone setting at one frequency: 0.4 s of sine, measured over its last 0.2 s,
+// which holds whole periods of every frequency used here.
+double toneGainDb(int rate, int bass, int treble, double freq) {
+    ToneSettings tone;
+    tone.bass = bass;
+    tone.treble = treble;
+    PeakLevel peak;
+    SoundProcessor p(tone, peak);
+    auto s = sine(freq, 0.1, rate, 0.4);
+    processInBlocks(p, s, rate);
+    return 20 * std::log10(tailRms(s, rate / 5) / (0.1 / std::sqrt(2.0)));
+}
+
+TEST(ToneShelves, CutAndBoostAboutTwelveDecibelsAndLeaveTheMiddleAlone) {
+    for (int rate : {44100, 48000}) {
+        SCOPED_TRACE(rate);
+        EXPECT_NEAR(toneGainDb(rate, 0, 50, 50), -12, 1.5);
+        EXPECT_NEAR(toneGainDb(rate, 100, 50, 50), 12, 1.5);
+        EXPECT_NEAR(toneGainDb(rate, 50, 0, 10000), -12, 1.5);
+        EXPECT_NEAR(toneGainDb(rate, 50, 100, 10000), 12, 1.5);
+        // Linear in dB: three quarters of the way is half the boost.
+        EXPECT_NEAR(toneGainDb(rate, 75, 50, 50), toneGainDb(rate, 100, 50, 50) / 2, 0.5);
+        for (auto [bass, treble] : {std::pair{0, 0}, std::pair{100, 100}, std::pair{0, 100}}) {
+            SCOPED_TRACE(testing::Message() << "bass " << bass << " treble " << treble);
+            EXPECT_NEAR(toneGainDb(rate, bass, treble, 1000), 0, 0.5);
+        }
+        // Each shelf stays on its own side.
+        EXPECT_NEAR(toneGainDb(rate, 100, 50, 10000), 0, 0.5);
+        EXPECT_NEAR(toneGainDb(rate, 50, 100, 50), 0, 0.5);
+    }
+}
+
+TEST(ToneShelves, FlatIsBitExactAlsoAfterATurnOfTheKnob) {
+    std::mt19937 random(7);
+    std::uniform_real_distribution<float> noise(-1.0f, 1.0f);
+    std::vector<float> input(4410 * 2UL);
+    for (float& x : input) x = noise(random);
+    input[10] = 1.0f;
+    input[11] = -1.0f;  // full scale is not an overshoot
+
+    ToneSettings tone;
+    PeakLevel peak;
+    SoundProcessor p(tone, peak);
+    auto out = input;
+    processInBlocks(p, out, 44100);
+    EXPECT_EQ(0, std::memcmp(out.data(), input.data(), input.size() * sizeof(float)));
+
+    // A quiet passage through a boost (nothing near full scale, so the limiter stays out of
+    // it), then flat again: untouched once more.
+    SoundProcessor fresh(tone, peak);
+    tone.treble = 100;
+    tone.bass = 0;
+    auto quiet = sine(1000, 0.05, 44100, 0.05);
+    processInBlocks(fresh, quiet, 44100);
+    tone.treble = 50;
+    tone.bass = 50;
+    out = input;
+    processInBlocks(fresh, out, 44100);
+    EXPECT_EQ(0, std::memcmp(out.data(), input.data(), input.size() * sizeof(float)));
+}
+
+// Share of a steady sine's power that is not the sine itself, over whole periods at the end.
+double distortion(const std::vector<float>& s, double freq, int rate, int frames) {
+    double sn = 0, cs = 0, total = 0;
+    const std::size_t first = s.size() / 2 - frames;
+    for (std::size_t i = first; i < s.size() / 2; ++i) {
+        const double y = s[2 * i], w = 2 * std::numbers::pi * freq * double(i) / rate;
+        sn += y * std::sin(w);
+        cs += y * std::cos(w);
+        total += y * y;
+    }
+    const double fundamental = 2 * (sn * sn + cs * cs) / frames;
+    return 1 - fundamental / total;
+}
+
+TEST(Limiter, FullBoostOfFullScaleStaysInRangeWithoutFlattenedTops) {
+    ToneSettings tone;
+    tone.bass = 100;
+    tone.treble = 100;
+    for (double freq : {50.0, 10000.0}) {
+        SCOPED_TRACE(freq);
+        PeakLevel peak;
+        SoundProcessor p(tone, peak);
+        auto s = sine(freq, 1.0, 44100, 0.4);
+        processInBlocks(p, s, 44100);
+        float lowest = 0, highest = 0;
+        for (float x : s) lowest = std::min(lowest, x), highest = std::max(highest, x);
+        EXPECT_GE(lowest, -1.0f);
+        EXPECT_LE(highest, 1.0f);
+        EXPECT_GT(highest, 0.9f) << "the limiter should fit the wave, not crush it";
+        // Cutting the tops off a wave boosted about 4 times would leave over 10% here.
+        EXPECT_LT(distortion(s, freq, 44100, 44100 / 5), 0.001);
+    }
+    PeakLevel peak;
+    SoundProcessor p(tone, peak);
+    std::mt19937 random(3);
+    std::uniform_real_distribution<float> noise(-1.0f, 1.0f);
+    std::vector<float> s(48000 * 2UL);
+    for (float& x : s) x = noise(random);
+    processInBlocks(p, s, 48000);
+    for (float x : s) ASSERT_TRUE(x >= -1.0f && x <= 1.0f) << x;
+}
+
+TEST(Volume, SquareLawPerSideClampedAndMonoTakesTheLeft) {
+    ToneSettings tone;
+    PeakLevel peak;
+    SoundProcessor p(tone, peak);
+    const auto run = [&](int left, int right) {
+        p.setVolume(left, right);
+        float frame[2] = {0.5f, 0.5f};
+        p.process(frame, 1, 2, 44100);
+        return std::pair{frame[0], frame[1]};
+    };
+    EXPECT_EQ(run(50, 100), std::pair(0.125f, 0.5f));
+    EXPECT_EQ(run(10, 0), std::pair(0.005f, 0.0f));
+    EXPECT_EQ(run(150, -5), std::pair(0.5f, 0.0f));
+    p.setVolume(50, 0);
+    float mono[1] = {0.5f};
+    p.process(mono, 1, 1, 44100);
+    EXPECT_EQ(mono[0], 0.125f);
+}
+
+TEST(Peak, EachReadingIsTheMaximumSinceTheLastOneInFullScaleUnits) {
+    ToneSettings tone;
+    PeakLevel peak;
+    SoundProcessor p(tone, peak);
+    EXPECT_EQ(peak.takeReading(), 0);
+    float a[4] = {0.1f, -0.5f, 0.25f, 0.0f}, b[4] = {0.25f, 0.0f, 0.0f, -0.125f};
+    p.process(a, 2, 2, 44100);
+    p.process(b, 2, 2, 44100);
+    EXPECT_EQ(peak.takeReading(), 16384);  // the negative sample of the first block
+    EXPECT_EQ(peak.takeReading(), 0);
+    p.process(b, 2, 2, 44100);
+    EXPECT_EQ(peak.takeReading(), 8192);
+    peak.offer(3.0f);
+    EXPECT_EQ(peak.takeReading(), PeakLevel::Maximum);
+
+    // Players on their own threads: the largest offer wins whatever the interleaving.
+    std::vector<std::thread> players;
+    players.reserve(4);
+    for (int t = 0; t < 4; ++t)
+        players.emplace_back([&, t] {
+            for (int i = 0; i < 2000; ++i) peak.offer(float(i % 100 + t * 100) / 1000.0f);
+        });
+    for (auto& th : players) th.join();
+    EXPECT_EQ(peak.takeReading(), std::lround(0.399f * 32768));
+}
+
+TEST(NullSink, TakesSamplesAtRealTimePaceAndResetDropsWhatIsUnplayed) {
+    const std::vector<float> tenMs(480 * 2UL, 0.0f);
+    NullSink sink;
+    ASSERT_TRUE(sink.open({48000, 2}));
+    auto start = Clock::now();
+    for (int i = 0; i < 10; ++i) sink.write(tenMs.data(), 480);
+    sink.drain();
+    auto took = Clock::now() - start;
+    EXPECT_GE(took, milliseconds(90));
+    EXPECT_LT(took, milliseconds(2000));
+
+    // A whole second fits the buffer, so nothing waits; after reset there is nothing to drain.
+    NullSink roomy(milliseconds(2000));
+    ASSERT_TRUE(roomy.open({48000, 2}));
+    start = Clock::now();
+    for (int i = 0; i < 100; ++i) roomy.write(tenMs.data(), 480);
+    roomy.reset();
+    roomy.drain();
+    EXPECT_LT(Clock::now() - start, milliseconds(500));
+}
+
+// Runs fn with stderr going to a temporary file, and gives back what was written there.
+template <typename Fn>
+QByteArray stderrOf(Fn fn) {
+    QTemporaryFile file;
+    EXPECT_TRUE(file.open());
+    std::fflush(stderr);
+    const int saved = dup(STDERR_FILENO);
+    dup2(file.handle(), STDERR_FILENO);
+    fn();
+    std::fflush(stderr);
+    dup2(saved, STDERR_FILENO);
+    ::close(saved);
+    file.seek(0);
+    return file.readAll();
+}
+
+TEST(SinkChoice, ForcedByTheEnvironmentElseOneThatOpens) {
+    const QByteArray saved = qgetenv("SONARIUM_AUDIO");
+    const bool wasSet = qEnvironmentVariableIsSet("SONARIUM_AUDIO");
+    const auto chosen = [](const char* value) {
+        value ? qputenv("SONARIUM_AUDIO", value) : qunsetenv("SONARIUM_AUDIO");
+        return createAudioSink();
+    };
+    EXPECT_NE(dynamic_cast<NullSink*>(chosen("null").get()), nullptr);
+    EXPECT_NE(dynamic_cast<PulseSink*>(chosen("pulse").get()), nullptr);
+    EXPECT_NE(dynamic_cast<AlsaSink*>(chosen("alsa").get()), nullptr);
+
+    // Whatever this machine has, the automatic choice is a sink that opens.
+    auto automatic = chosen(nullptr);
+    EXPECT_TRUE(automatic->open({44100, 2}));
+    automatic->close();
+
+    // A device sink on a machine without one fails fast and says nothing; with one, it opens.
+    for (const char* forced : {"pulse", "alsa"}) {
+        SCOPED_TRACE(forced);
+        auto sink = chosen(forced);
+        const auto start = Clock::now();
+        const QByteArray noise = stderrOf([&] {
+            if (sink->open({44100, 2})) sink->open({48000, 1});  // another format reopens
+            sink->close();
+        });
+        EXPECT_LT(Clock::now() - start, milliseconds(2000));
+        EXPECT_EQ(noise, QByteArray());
+    }
+    wasSet ? qputenv("SONARIUM_AUDIO", saved) : qunsetenv("SONARIUM_AUDIO");
+}
+
+TEST(EngineMixer, ReportsItsControlsInOrderAndSetsTheSharedTone) {
+    ToneSettings tone;
+    EngineMixer mixer(tone);
+    std::vector<std::tuple<QString, std::int32_t, std::int32_t>> found;
+    mixer.onControlFound = [&](const QString& name, std::int32_t id0, std::int32_t id1) {
+        found.emplace_back(name, id0, id1);
+    };
+    mixer.OpenMixer();
+    ASSERT_EQ(found.size(), 3u);
+    EXPECT_EQ(std::get<0>(found[0]), "Treble");
+    EXPECT_EQ(std::get<0>(found[1]), "Bass");
+    EXPECT_EQ(std::get<0>(found[2]), "VUMeterWaveOut");
+    const auto set = [&](int which, std::int32_t value) {
+        return mixer.SetControlValue(std::get<1>(found[which]), std::get<2>(found[which]), 0, value);
+    };
+
+    EXPECT_TRUE(set(0, 80));
+    EXPECT_TRUE(set(1, 130));
+    EXPECT_EQ(tone.treble, 80);
+    EXPECT_EQ(tone.bass, 100);
+    EXPECT_TRUE(set(1, -5));
+    EXPECT_EQ(tone.bass, 0);
+    EXPECT_FALSE(set(2, 70));  // the meter has no value to set
+    EXPECT_FALSE(mixer.SetControlValue(0, 0, 0, 70));
+    EXPECT_FALSE(mixer.SetControlValue(std::get<1>(found[0]), std::get<2>(found[1]), 0, 70));
+    EXPECT_EQ(tone.treble, 80);
+    EXPECT_EQ(tone.bass, 0);
+
+    // A player reading the shared tone hears the change.
+    set(1, 100);
+    PeakLevel peak;
+    SoundProcessor p(tone, peak);
+    auto s = sine(50, 0.1, 44100, 0.4);
+    processInBlocks(p, s, 44100);
+    EXPECT_GT(tailRms(s, 44100 / 5), 3 * 0.1 / std::sqrt(2.0));
+}
+
+TEST(EnginePeakMeter, ReadsOnlyBetweenPrepareAndFree) {
+    PeakLevel level;
+    EnginePeakMeter meter(level);
+    EXPECT_EQ(meter.OpenMixer(), 0);
+    EXPECT_TRUE(meter.FindPeakControl());
+    EXPECT_EQ(meter.Maximum(), 32768);
+    level.offer(0.5f);
+    EXPECT_EQ(meter.Read(), std::nullopt);
+    ASSERT_TRUE(meter.Prepare());
+    EXPECT_EQ(meter.Read(), 0) << "what played before the meter was prepared is not this tick";
+    level.offer(0.25f);
+    EXPECT_EQ(meter.Read(), 8192);
+    EXPECT_EQ(meter.Read(), 0);
+    meter.Free();
+    level.offer(0.5f);
+    EXPECT_EQ(meter.Read(), std::nullopt);
+}
+
+}  // namespace
+}  // namespace sonarium

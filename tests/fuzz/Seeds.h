@@ -1,0 +1,28 @@
+#pragma once
+// The starting inputs of the fuzz targets and a deterministic mutator, shared by the short
+// runs of every build and by the corpus a real fuzzing run starts from.
+#include <cstdint>
+#include <random>
+#include <string>
+#include <vector>
+
+namespace sonarium::fuzz {
+
+using Bytes = std::vector<std::uint8_t>;
+
+struct Seed {
+    std::string name;
+    Bytes bytes;
+};
+
+// Empty input, a tag alone, MPEG frames (MPEG-1, MPEG-2, mono, free format, a Xing header, a
+// change of format midway),
+// frames after an ID3v2 header, frames with a tag, a lying ID3v2 header, random bytes.
+std::vector<Seed> seedCorpus();
+
+// One to four random edits of `input`: bit flips, byte sets, inserts, deletes, copies,
+// truncation, splices with `other`, and markers the parsers look for ("TAG", "ID3", "Xing",
+// frame headers) dropped at telling places. Never longer than 64 KiB.
+Bytes mutate(const Bytes& input, const Bytes& other, std::mt19937& rng);
+
+}  // namespace sonarium::fuzz

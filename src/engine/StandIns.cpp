@@ -50,20 +50,9 @@ public:
 
 }  // namespace
 
-StandInPlayer::StandInPlayer() { announce("the MP3 player"); }
 StandInEncoder::StandInEncoder() { announce("the MP3 encoder"); }
 StandInCdReader::StandInCdReader() { announce("the CD reader"); }
 StandInProcesses::StandInProcesses() { announce("starting outside programs"); }
-StandInMixer::StandInMixer() { announce("the tone mixer"); }
-StandInPeakMeter::StandInPeakMeter() { announce("the peak meter"); }
-
-void StandInMixer::OpenMixer() {
-    // Distinct pairs, as a real mixer gives; nothing reads them back here.
-    if (!onControlFound) return;
-    onControlFound(QStringLiteral("Treble"), 1, 1);
-    onControlFound(QStringLiteral("Bass"), 2, 2);
-    onControlFound(QStringLiteral("VUMeterWaveOut"), 3, 3);
-}
 
 StandInDataControl::StandInDataControl()
     : database_(std::make_unique<NoDatabase>()), recordset_(std::make_unique<EmptyRecordset>()) {

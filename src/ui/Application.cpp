@@ -25,7 +25,11 @@ void Application::prepareProcess() {
 QString commandLineOf(const QStringList& arguments) { return arguments.mid(1).join(QLatin1Char(' ')); }
 
 Application::Application(const QStringList& arguments)
-    : components_{loop_,  dialogs_, desktop_, pictures_, volumes_,    mp3_,
+    : mp3_(loop_, createAudioSink, tone_, peakLevel_),
+      mp32_(loop_, createAudioSink, tone_, peakLevel_),
+      mixer_(tone_),
+      peak_(peakLevel_),
+      components_{loop_,  dialogs_, desktop_, pictures_, volumes_,    mp3_,
                   mp32_,  encoder_, cd_,      mixer_,    peak_,       data_,
                   processes_, commandLineOf(arguments), QDir::currentPath()},
       program_(components_),

@@ -7,9 +7,13 @@
 #include <memory>
 
 #include "controls/Components.h"
+#include "engine/EngineMixer.h"
+#include "engine/EnginePeakMeter.h"
 #include "engine/LinuxVolumes.h"
 #include "engine/QtPictureLoader.h"
 #include "engine/StandIns.h"
+#include "engine/audio/SoundProcessor.h"
+#include "engine/player/Mp3Play.h"
 #include "shell/Program.h"
 #include "ui/QtDesktop.h"
 #include "ui/QtDialogs.h"
@@ -42,11 +46,14 @@ private:
     QtDesktop desktop_;
     QtPictureLoader pictures_;
     LinuxVolumes volumes_;
-    StandInPlayer mp3_, mp32_;
+    // Treble and bass, and the peak level, are shared by both players' output paths.
+    ToneSettings tone_;
+    PeakLevel peakLevel_;
+    Mp3Play mp3_, mp32_;
     StandInEncoder encoder_;
     StandInCdReader cd_;
-    StandInMixer mixer_;
-    StandInPeakMeter peak_;
+    EngineMixer mixer_;
+    EnginePeakMeter peak_;
     StandInDataControl data_;
     StandInProcesses processes_;
     Components components_;

@@ -68,6 +68,7 @@ void FakePlayer::startRun(std::int32_t from, std::int32_t to) {
     lastNotified_ = from;
     runStartMs_ = loop_.now();
     state_ = State::Playing;
+    runToken_ = ends_.runStarted();
     schedule();
 }
 
@@ -113,8 +114,12 @@ void FakePlayer::endRun() {
     cancelTimer();
     if (state_ == State::Playing) pos_ = position();
     state_ = State::Ended;
-    loop_.post(guarded([this, opened = openCount_] {
-        if (opened != openCount_) return;  // the file it belonged to was replaced
+    raiseStreamEnd(runToken_);
+}
+
+void FakePlayer::raiseStreamEnd(StreamEndRule::Token token) {
+    loop_.post(guarded([this, token] {
+        if (!ends_.deliver(token)) return;
         record(QStringLiteral("event StreamEnd"));
         if (onStreamEnd) onStreamEnd();
     }));
@@ -124,17 +129,20 @@ void FakePlayer::endRun() {
 
 std::int16_t FakePlayer::Open(const QString& file, const QString& wav) {
     record(QStringLiteral("Open(%1,%2)").arg(file, wav));
-    cancelTimer();
-    ++openCount_;
-    state_ = State::Closed;
+    closeFile();
+    ends_.opened();
     edit_ = {};
     file_.clear();
     wav_.clear();
     tagTarget_.clear();
     auto it = files_.find(key(file));
-    if (it == files_.end() || it->frames <= 0) return 1;
+    if (it == files_.end() || it->frames <= 0) {
+        ends_.closed();
+        return 1;
+    }
     if (it->failuresLeft != 0) {
         if (it->failuresLeft > 0) --it->failuresLeft;
+        ends_.closed();
         return it->failCode;
     }
     state_ = State::Ready;
@@ -146,10 +154,18 @@ std::int16_t FakePlayer::Open(const QString& file, const QString& wav) {
     return 0;
 }
 
-void FakePlayer::Close() {
-    record(QStringLiteral("Close"));
+void FakePlayer::closeFile() {
+    if (state_ == State::Playing || state_ == State::Paused)
+        ends_.runSilenced(runToken_);
+    else
+        ends_.closed();
     cancelTimer();
     state_ = State::Closed;
+}
+
+void FakePlayer::Close() {
+    record(QStringLiteral("Close"));
+    closeFile();
 }
 
 void FakePlayer::Play() {
@@ -164,6 +180,7 @@ void FakePlayer::PlayRange(std::int32_t startFrame, std::int32_t endFrame) {
     record(QStringLiteral("PlayRange(%1,%2)").arg(startFrame).arg(endFrame));
     const File* f = open();
     if (!f) return;
+    if (state_ == State::Playing || state_ == State::Paused) endRun();  // the run before ends first
     std::int32_t from = std::clamp(startFrame, 0, f->frames);
     startRun(from, std::clamp(endFrame, from, f->frames));
 }
@@ -178,7 +195,10 @@ void FakePlayer::Pause() {
 
 void FakePlayer::Stop() {
     record(QStringLiteral("Stop"));
-    if (state_ == State::Ready || state_ == State::Playing || state_ == State::Paused) endRun();
+    if (state_ == State::Playing || state_ == State::Paused)
+        endRun();
+    else if (const StreamEndRule::Token t = ends_.stopWithoutRun())
+        raiseStreamEnd(t);
 }
 
 std::int16_t FakePlayer::SeekFrame(std::int32_t frame) {

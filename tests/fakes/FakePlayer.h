@@ -5,11 +5,10 @@
 // Contract that tests rely on:
 // - FrameNotify(f) comes for each frame f that is a multiple of NotifyInterval, with
 //   start < f < end of what plays; then StreamEnd. Both arrive through the loop.
-// - StreamEnd comes exactly once per run: after the end of what plays, or after Stop of an
-//   open file that has not ended yet (also one opened and never started, or paused). It is
-//   posted, so it arrives after Stop has returned. Stop of a closed or ended file brings none.
-// - Close ends a run silently. A StreamEnd still queued when another file is opened belonged
-//   to the file before and is dropped; one queued at Close alone is still delivered.
+// - StreamEnd follows StreamEndRule (controls/StreamEndRule.h), as the real player does: one
+//   at the end of a run or after Stop (also of a file opened and never started), none from
+//   Close, queued ones dropped by the next Open, a lost one paid by the next idle Stop. It is
+//   posted, so it arrives after Stop has returned.
 // - Open of a file that was not registered fails with 1; failOpen makes a registered one fail.
 // - SetSpeed scales the frame duration (speed 50 plays twice as fast).
 #include <QHash>
@@ -19,6 +18,7 @@
 #include "CallLog.h"
 #include "controls/EventLoop.h"
 #include "controls/Mp3Player.h"
+#include "controls/StreamEndRule.h"
 
 namespace sonarium {
 
@@ -118,6 +118,8 @@ private:
     void cancelTimer();
     void tick();
     void endRun();
+    void raiseStreamEnd(StreamEndRule::Token token);
+    void closeFile();  // ends a run that plays or is paused, then closes
 
     EventLoop& loop_;
     QHash<QString, File> files_;
@@ -125,9 +127,10 @@ private:
     double frameMs_ = 26.0;
 
     State state_ = State::Closed;
+    StreamEndRule ends_;
+    StreamEndRule::Token runToken_ = 0;
     QString file_, wav_, tagTarget_;
     TagEdit edit_;
-    std::uint64_t openCount_ = 0;  // tells a StreamEnd of an earlier file from the current one
     std::int32_t pos_ = 0;         // position when not playing; start of the clock's count when playing
     std::int32_t end_ = 0;
     std::int64_t runStartMs_ = 0;

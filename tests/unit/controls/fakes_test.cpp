@@ -1,7 +1,8 @@
 // The contracts of the fakes that the logic's tests build on: when a fake player's
-// notifications come, that StreamEnd comes exactly once per run and never for a file that was
-// replaced, that job fakes finish once, and that scripted dialogs answer in order, record
-// what was shown and fail loudly on a question nobody expected.
+// notifications come, that StreamEnd comes exactly once per run (also for a run that Close or
+// another Open ended) and never without a run, that job fakes finish once, and that scripted
+// dialogs answer in order, record what was shown and fail loudly on a question nobody
+// expected.
 #include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 
@@ -57,24 +58,32 @@ TEST_F(FakePlayerTest, StopBringsExactlyOneStreamEndAfterItReturns) {
     tc.loop.advance(10000);
     EXPECT_EQ(events, QStringList({"end@100"}));
 
-    // An opened file that never started also ends on Stop (a silent "playing" state needs it);
-    // a closed one does not.
+    // The fake keeps the player's StreamEnd rule (tested on its own): a song loaded and never
+    // started ends with Stop; Close raises nothing; a queued end is dropped by the next Open.
     events.clear();
     tc.mp3.Open("/m/b.mp3", "");
     tc.mp3.Stop();
-    tc.mp3.Close();
-    tc.mp3.Stop();
     tc.loop.runUntilIdle();
     EXPECT_EQ(events, QStringList({QStringLiteral("end@%1").arg(tc.loop.now())}));
-
-    // A StreamEnd still queued when another file opens belonged to the file before: dropped.
     events.clear();
-    tc.mp3.Open("/m/a.mp3", "");
-    tc.mp3.Stop();
+    tc.mp3.Play();
     tc.mp3.Close();
-    EXPECT_EQ(tc.mp3.Open("/m/b.mp3", ""), 0);
+    tc.mp3.Open("/m/a.mp3", "");
+    tc.mp3.Play();
+    tc.mp3.Stop();
+    tc.mp3.Open("/m/b.mp3", "");
     tc.loop.runUntilIdle();
     EXPECT_TRUE(events.isEmpty());
+    tc.mp3.Open("/m/a.mp3", "");
+
+    // A PlayRange over a running run ends that one first.
+    events.clear();
+    tc.mp3.Play();
+    tc.loop.advance(26);
+    tc.mp3.PlayRange(98, 100);
+    tc.loop.advance(1000);
+    EXPECT_EQ(events, QStringList({QStringLiteral("end@%1").arg(tc.loop.now() - 1000),
+                                   QStringLiteral("end@%1").arg(tc.loop.now() - 1000 + 52)}));
 }
 
 TEST_F(FakePlayerTest, OpenFailuresAndTagWrites) {

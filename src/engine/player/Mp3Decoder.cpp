@@ -1,0 +1,172 @@
+#include "engine/player/Mp3Decoder.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <cmath>
+#include <cstdlib>
+#include <mpg123.h>
+#include <mutex>
+
+#include "controls/FileNames.h"
+
+namespace sonarium {
+
+namespace {
+
+// A decoder call that fails this many times in a row (a damaged stretch the library cannot
+// resync over) ends the stream: every loop over a file is bounded.
+constexpr int kMaxFailuresInARow = 32;
+
+void initLibraryOnce() {
+    static std::once_flag once;
+    std::call_once(once, [] { mpg123_init(); });
+}
+
+// The bytes of an ID3v2 tag at the start of `head` (10-byte header, synchsafe size, optional
+// footer), or 0.
+qint64 id3v2Size(const QByteArray& head) {
+    if (head.size() < 10 || !head.startsWith("ID3")) return 0;
+    qint64 size = 0;
+    for (int i = 6; i < 10; ++i) size = (size << 7) | (static_cast<unsigned char>(head[i]) & 0x7f);
+    const bool footer = (static_cast<unsigned char>(head[5]) & 0x10) != 0;
+    return 10 + size + (footer ? 10 : 0);
+}
+
+}  // namespace
+
+Mp3Decoder::~Mp3Decoder() { close(); }
+
+void Mp3Decoder::close() {
+    if (handle_) {
+        mpg123_close(handle_);
+        mpg123_delete(handle_);
+        handle_ = nullptr;
+    }
+    info_ = {};
+    position_ = 0;
+    ended_ = false;
+}
+
+int Mp3Decoder::open(const QString& path) {
+    close();
+    const QString resolved = resolveFileName(path);
+    const QFileInfo fi(resolved);
+    if (path.isEmpty() || !fi.isFile() || !fi.isReadable() || fi.size() == 0) return 1;
+
+    initLibraryOnce();
+    int err = MPG123_OK;
+    handle_ = mpg123_new(nullptr, &err);
+    if (!handle_) return 1;
+    // Gapless as the mpg123 tool does by default, and no printouts for damaged files.
+    mpg123_param(handle_, MPG123_ADD_FLAGS, MPG123_GAPLESS | MPG123_QUIET, 0);
+    // Signed 16-bit only, at any rate and either channel count: the library then keeps the
+    // file's own rate and channel count.
+    mpg123_format_none(handle_);
+    const long* rates = nullptr;
+    size_t rateCount = 0;
+    mpg123_rates(&rates, &rateCount);
+    for (size_t i = 0; i < rateCount; ++i)
+        mpg123_format(handle_, rates[i], MPG123_MONO | MPG123_STEREO, MPG123_ENC_SIGNED_16);
+
+    if (mpg123_open(handle_, QFile::encodeName(resolved).constData()) != MPG123_OK || !probe()) {
+        close();
+        return 1;
+    }
+    info_.bitRate = bitRate(resolved);
+    return 0;
+}
+
+// Reads the format and the exact length; false when the file holds no MPEG audio.
+bool Mp3Decoder::probe() {
+    if (mpg123_scan(handle_) != MPG123_OK) return false;
+    long rate = 0;
+    int channels = 0, encoding = 0;
+    if (mpg123_getformat(handle_, &rate, &channels, &encoding) != MPG123_OK) return false;
+    if (encoding != MPG123_ENC_SIGNED_16 || rate <= 0 || (channels != 1 && channels != 2)) return false;
+    mpg123_frameinfo frame{};
+    if (mpg123_info(handle_, &frame) != MPG123_OK) return false;
+    const off_t frames = mpg123_framelength(handle_);
+    const off_t samples = mpg123_length(handle_);
+    if (frames <= 0 || frames > INT32_MAX || samples < 0) return false;
+
+    info_.frames = static_cast<std::int32_t>(frames);
+    info_.samples = samples;
+    info_.rate = static_cast<int>(rate);
+    info_.channels = channels;
+    info_.channelMode = static_cast<int>(frame.mode);
+    // The first frame's rate, for now: bitRate() decides whether it stands for the file.
+    info_.bitRate = (frame.vbr == MPG123_CBR) ? frame.bitrate : 0;
+    seekFrame(0);
+    return true;
+}
+
+// A CBR file's rate is the one its frames state. A VBR file without an Xing frame looks like
+// CBR to the library, so the stated rate is kept only when the audio bytes over the playing
+// time agree with it; otherwise (VBR, ABR, free format) that average is the rate.
+int Mp3Decoder::bitRate(const QString& path) const {
+    const int stated = info_.bitRate;
+    int average = 0;
+    QFile file(path);
+    if (file.open(QIODevice::ReadOnly) && info_.seconds() > 0) {
+        qint64 bytes = file.size() - id3v2Size(file.read(10));
+        if (file.size() >= 128 && file.seek(file.size() - 128) && file.read(3) == "TAG") bytes -= 128;
+        if (bytes > 0) average = static_cast<int>(std::lround(double(bytes) * 8.0 / info_.seconds() / 1000.0));
+    }
+    if (stated > 0 && (average == 0 || std::abs(average - stated) * 20 <= stated)) return stated;
+    return average;
+}
+
+void Mp3Decoder::seekFrame(std::int32_t frame) {
+    if (!handle_) return;
+    if (frame < 0) frame = 0;
+    if (frame >= info_.frames) {
+        position_ = info_.frames;
+        ended_ = true;
+        return;
+    }
+    // SEEK_SET: counted from the start, not from where the decoder happens to stand.
+    const off_t at = mpg123_seek_frame(handle_, frame, SEEK_SET);
+    ended_ = at < 0;
+    position_ = at < 0 ? info_.frames : static_cast<std::int32_t>(mpg123_tellframe(handle_));
+}
+
+// A stream that changes rate or channels midway (a damaged or spliced file) ends where it
+// does: the output was set up for the first format. The library announces a change only
+// once, so after a seek past it the format is checked again at every frame.
+bool Mp3Decoder::formatUnchanged() const {
+    long rate = 0;
+    int channels = 0, encoding = 0;
+    return mpg123_getformat2(handle_, &rate, &channels, &encoding, 0) == MPG123_OK &&
+           rate == info_.rate && channels == info_.channels && encoding == MPG123_ENC_SIGNED_16;
+}
+
+bool Mp3Decoder::next(DecodedFrame& out) {
+    if (!handle_ || ended_) return false;
+    int failures = 0;
+    while (failures < kMaxFailuresInARow) {
+        off_t num = 0;
+        unsigned char* audio = nullptr;
+        size_t bytes = 0;
+        const int r = mpg123_decode_frame(handle_, &num, &audio, &bytes);
+        if (r == MPG123_OK) {
+            if (num < 0 || num >= info_.frames || !formatUnchanged()) break;
+            out.index = static_cast<std::int32_t>(num);
+            out.samples = reinterpret_cast<const std::int16_t*>(audio);
+            out.sampleFrames = static_cast<int>(bytes / (sizeof(std::int16_t) * info_.channels));
+            position_ = out.index + 1;
+            return true;
+        }
+        if (r == MPG123_NEW_FORMAT) {
+            // The first call of a stream announces the format with no samples.
+            if (!formatUnchanged()) break;
+            ++failures;  // bounded all the same
+            continue;
+        }
+        if (r == MPG123_DONE) break;
+        ++failures;
+    }
+    ended_ = true;
+    return false;
+}
+
+}  // namespace sonarium

@@ -1,12 +1,16 @@
 #include "controls/Errors.h"
 
+#include <QtGlobal>
 #include <cstdio>
 
 namespace sonarium {
 namespace {
+// Skipped statements are part of the program's normal flow (a photo that isn't there, a
+// picture index a skin doesn't have), so they are silent unless SONARIUM_DEBUG is set.
 std::function<void(const QString&)>& reporter() {
     static std::function<void(const QString&)> r = [](const QString& what) {
-        std::fprintf(stderr, "sonarium: skipped: %s\n", what.toLocal8Bit().constData());
+        static const bool debug = qEnvironmentVariableIsSet("SONARIUM_DEBUG");
+        if (debug) std::fprintf(stderr, "sonarium: skipped: %s\n", what.toLocal8Bit().constData());
     };
     return r;
 }

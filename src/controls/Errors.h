@@ -46,7 +46,7 @@ private:
 // Returns false when the statement failed, so a caller can resume where the rule says.
 bool tryStep(const std::function<void()>& statement);
 
-// Where swallowed failures are reported (stderr by default; tests may collect them).
+// Where swallowed failures are reported (stderr with SONARIUM_DEBUG set; tests may collect them).
 void setSkippedErrorReporter(std::function<void(const QString&)> reporter);
 void reportSkippedError(const QString& what);
 

@@ -24,8 +24,10 @@ void Form1::OpenMixerAtLoad() {
     C.mixer.OpenMixer();
 }
 
+void Form1::PlaceVolumeSlider(double value) { SLiderVolume.setTop(sliderTop(VolumeTop, value)); }
+
 void Form1::PlaceSliders() {
-    tryStep([&] { SLiderVolume.setTop(sliderTop(VolumeTop, M.Volume)); });
+    tryStep([&] { PlaceVolumeSlider(M.Volume); });
     tryStep([&] { SliderTreble.setTop(sliderTop(TrebleTop, M.Treble)); });
     tryStep([&] { SliderBass.setTop(sliderTop(BassTop, M.Bass)); });
 }
@@ -39,5 +41,8 @@ void Form1::SendToneToMixer() {
 void Form1::LoadMixer() {}
 
 void Form1::SaveMixer() {}
+
+// The song's own treble and bass from its .TB file land with the tone work.
+void Form1::LoadTB() {}
 
 }  // namespace sonarium

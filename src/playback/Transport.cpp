@@ -1,11 +1,95 @@
-// The transport buttons and the end of a stream.
+// The Play button. Every start goes through its mouse-up handler: the button, F4, a click on
+// a queue row during play, the end of the song before, the alarm and the mini player.
+#include "controls/Errors.h"
+#include "controls/FileNames.h"
 #include "shell/Form1.h"
+#include "skins/FrmMiniPlayer.h"
 
 namespace sonarium {
 
-// Until the transport lands, Play and Stop do nothing: no song is ever playing.
-void Form1::BtnPlay_MouseUp(int, int, double, double) {}
+namespace {
+constexpr int PlayAtRest = 1, PlayPressed = 2, PlayPlaying = 24, MonoPicture = 17, StereoPicture = 18;
+}
 
-void Form1::BtnStop_MouseUp(int, int, double, double) {}
+void Form1::ShowButtonImage(Image& button, int index) {
+    tryStep([&] { button.setPicture(ImageListB.ListImage(index)); });
+}
+
+void Form1::BtnPlay_MouseDown(int, int, double, double) {
+    if (M.SongPlaying || M.SongPaused) return;
+    ShowButtonImage(BtnPlay, PlayPressed);
+    StopRequested = false;
+}
+
+void Form1::BtnPlay_MouseUp(int, int, double, double) {
+    auto step = [](const std::function<void()>& s) { return tryStep(s); };
+    step([&] { M.KaraokeIndex = 1, M.KaraokeCount = 0; });
+    step([&] { lblBladeEncTime.setVisible(false); });
+    if (mnuWavToMp3.Checked() || mnuCDtoMP3.Checked() || mnuCdToWav.Checked()) {
+        step([&] { ConversionPlay(); });
+        return;
+    }
+    ShowButtonImage(BtnPlay, PlayAtRest);
+    // A running or paused song is left alone.
+    if (M.SongPlaying || M.SongPaused) return;
+
+    step([&] { C.mp3.Stop(); });
+    step([&] { C.loop.waitUntil([this] { return !M.SongPlaying; }); });
+    if (mnuMP3ToWav.Checked() && !Mp3ToWavTargetOk()) return;
+
+    if (lstSongs.ListCount() == 0) {
+        const QString where =
+            PanelDatabase.Visible()
+                ? QStringLiteral("Select a title in the database, and click the 'Add to queue' button")
+                : QStringLiteral("Click on a song title to add it to the song queue");
+        C.dialogs.msgBox(QStringLiteral("Nothing in song queue - ") + where, MsgButtons::OK,
+                         MsgIcon::Information, QStringLiteral("Play"));
+        return;
+    }
+    // Selecting runs the list's click, which sets CurrentSong.
+    if (lstSongs.ListIndex() == -1) step([&] { lstSongs.setListIndex(0); });
+
+    step([&] {
+        const QString timings =
+            SongPathOf(M.CurrentSong) + lstSongs.List(M.CurrentSong) + QStringLiteral(".KAK");
+        if (fileExists(timings) && !M.KaraokeRecording)
+            LoadKaraoke(timings);
+        else
+            M.KaraokePlaying = false;
+    });
+    step([&] { GetTotTime(); });
+    // A song that can't be opened ends the chain here: the machine stays idle.
+    if (!GetSong(M.CurrentSong)) return;
+
+    step([&] {
+        const std::int16_t mode = C.mp3.ChannelMode();
+        if (mode == 0) {
+            ShowButtonImage(imgMS, StereoPicture);
+            MiniShowChannels(mode);
+        } else if (mode == 3) {
+            ShowButtonImage(imgMS, MonoPicture);
+            MiniShowChannels(mode);
+        }
+    });
+    step([&] { cmdShuffle.setVisible(false); });
+    step([&] { SavedVolume = M.Volume; });
+    step([&] { C.mp3.SetVolume(M.Volume, M.Volume); });
+    step([&] { setCaption(CaptionWithAlarm(lstSongs.Text())); });
+    ShowButtonImage(BtnPlay, PlayPlaying);
+    step([&] { MiniShowPlaying(); });
+    // Playing is set before the player starts: its events may come at any moment after.
+    M.SongPlaying = true;
+    step([&] { Ball.setPicture(imgGreenBall.picture()); });
+    // With a punch section on and no decoding, nothing starts: playing, silent.
+    step([&] {
+        if (chkUseInOut.Value() == 0) {
+            C.mp3.Play();
+        } else if (mnuMP3ToWav.Checked()) {
+            const auto row = std::size_t(M.CurrentSong);
+            C.mp3.PlayRange(M.PunchStart.at(row), M.PunchEnd.at(row) - 80);
+        }
+    });
+    step([&] { TimerMix.setEnabled(true); });
+}
 
 }  // namespace sonarium

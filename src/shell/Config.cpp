@@ -7,10 +7,6 @@
 
 namespace sonarium {
 
-namespace {
-const QString AlarmSuffix = QStringLiteral("           Alarm Time : ");
-}
-
 // No failure rule of its own: a read that fails ends it, steps 3 to 9 included, and the
 // caller goes on.
 void Form1::LoadConfig() {
@@ -40,7 +36,7 @@ void Form1::LoadConfig() {
     if (alarmOn == 1) {
         mnuAlarmOnOff.setChecked(true);
         tmrAlarm.setEnabled(true);
-        setCaption(QStringLiteral("Sonarium") + AlarmSuffix + M.AlarmTime);
+        setCaption(CaptionWithAlarm(QStringLiteral("Sonarium")));
     }
     if (infoInterval == 0) infoInterval = 10000;
     tmrInfo.setInterval(infoInterval);

@@ -63,9 +63,62 @@ public:
     void LoadSkinMini();
     void imgButon_Click(int index);
     void UpdateRecordCount();
-    void BtnPlay_MouseUp(int button, int shift, double x, double y);
-    void BtnStop_MouseUp(int button, int shift, double x, double y);
     void lstSongs_Click();
+
+    // ---- Playback: song loading ----
+    bool GetSong(std::int16_t& index);
+    void GetTotTime();
+    void LoadTB();
+    // The caption the window takes for a song, with the alarm's suffix when the alarm is on.
+    QString CaptionWithAlarm(const QString& text) const;
+    // Rows 0 to 500 have a directory; any other row fails, so each step that needs it is skipped.
+    const QString& SongPathOf(int row) const;
+    // The six photo files of a row, folder's then song's, each GIF, BMP, JPG: each one that
+    // loads replaces the one before.
+    void TryPhotos(Image& photo, int row);
+    void SizePhoto();
+
+    // ---- Playback: transport ----
+    void BtnPlay_MouseDown(int button, int shift, double x, double y);
+    void BtnPlay_MouseUp(int button, int shift, double x, double y);
+    void BtnPause_MouseDown(int button, int shift, double x, double y);
+    void BtnPause_MouseUp(int button, int shift, double x, double y);
+    void BtnStop_MouseDown(int button, int shift, double x, double y);
+    void BtnStop_MouseUp(int button, int shift, double x, double y);
+    void BtnFade_MouseDown(int button, int shift, double x, double y);
+    void BtnFade_MouseUp(int button, int shift, double x, double y);
+    void MP3_StreamEnd();
+    void SongFollows();  // what the end of a song leads to
+    // A picture of ImageListB on a control; an index the list lacks skips the statement.
+    void ShowButtonImage(Image& button, int index);
+    void chkLoop_Click();
+    void mnuLoopOff_Click();
+    void mnuLoopSongSet_Click();
+    void mnuLoopSong_Click();
+    void mnuStopAfterSong_Click();
+    void StartFade();
+    void PlaceVolumeSlider(double value);
+
+    // ---- Procedures of later work that loading and the transport call ----
+    void LoadRTF(const QString& file);                 // info pages
+    void LoadKaraoke(const QString& file);             // karaoke timings of the song
+    void WriteKaraoke();                               // ends a karaoke recording
+    void CheckForBlade();                              // the external encoder's stop question
+    void ConversionPlay();                             // Play in the CD and WAV conversion modes
+    bool Mp3ToWavTargetOk();                           // the overwrite question of MP3 to WAV
+    // The mini player's share of loading and the transport.
+    void MiniShowSongLength();
+    void MiniShowChannels(std::int16_t channelMode);
+    void MiniShowPlaying();
+    void MiniHideChannels();
+    void MiniShowStopped();
+    void MiniStopMeterTimer();
+    void MiniClearElapsed();
+    void MiniResetKnob();
+    void MiniSongFollows();
+    void MiniGetSongs();
+    void MiniSelectRow(int row);
+    void MiniShowLoop(bool on);
 
     // ---- Form-level state ----
     bool StopRequested = false;

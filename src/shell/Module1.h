@@ -35,6 +35,8 @@ struct Module1 {
     std::int16_t LoopMode = 0;  // 0 off, 1 whole queue, 2 same song
     std::int16_t SongSpeed = 100;
     bool KaraokePlaying = false;
+    std::int32_t KaraokeIndex = 0, KaraokeCount = 0;  // every Play resets them
+    bool KaraokeRecording = false;
     QString MiniTitleText;
     QString SongFile;
     std::int32_t SongSeconds = 0;

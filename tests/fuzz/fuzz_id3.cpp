@@ -7,7 +7,7 @@
 #include "TempFile.h"
 #include "engine/id3/Id3v1Tag.h"
 #include "engine/id3/Id3v1Writer.h"
-#include "engine/id3/Windows1252.h"
+#include "controls/Windows1252.h"
 
 namespace {
 

@@ -4,7 +4,7 @@
 #include <QFileInfo>
 
 #include "controls/FileNames.h"
-#include "engine/id3/Windows1252.h"
+#include "controls/Windows1252.h"
 
 namespace sonarium {
 namespace {

@@ -6,7 +6,7 @@
 
 #include "controls/FileNames.h"
 #include "engine/id3/Id3v1Tag.h"
-#include "engine/id3/Windows1252.h"
+#include "controls/Windows1252.h"
 
 namespace sonarium {
 namespace {

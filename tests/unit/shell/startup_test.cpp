@@ -48,6 +48,7 @@ TEST_F(StartUp, AFirstStartShowsTheMainWindowAndLeavesTheInitTrace) {
 TEST_F(StartUp, MiniModeKeepsTheMainWindowHiddenAndLeavesTheLoadTrace) {
     write("Config.dat", " 1 \r\n");
     tc.commandLine = "/music/Blues/Song.mp3";
+    tc.mp3.addFile("/music/Blues/Song.MP3", 380, 10.0f);
     program().Main();
     EXPECT_EQ(read("Debug.dat"), lines("Load", {1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16}));
     EXPECT_FALSE(form1().Visible());
@@ -93,6 +94,7 @@ TEST_F(StartUp, TheCommandLineIsTakenWhole) {
         TestComponents fresh;
         fresh.startDir = dir.path();
         fresh.commandLine = QString::fromUtf8(c.line);
+        if (!c.rows.isEmpty()) fresh.mp3.addFile(QString::fromUtf8(c.dir) + c.rows[0] + ".MP3", 380, 10.0f);
         Components comps = fresh.components();
         Program p(comps);
         p.form1.CheckForSong();
@@ -120,6 +122,7 @@ TEST_F(StartUp, TheFirstActivationAttachesTheLibraryAndLaterOnesOnlyThePhoto) {
 }
 
 TEST_F(StartUp, F4IsSwallowedUnlessTheEditorOrTheLibraryHasTheWindow) {
+    tc.dialogs.setAutoAnswerOk(true);  // F4 on an empty queue says so
     program().Main();
     EXPECT_TRUE(form1().KeyDown(115, 0));
     EXPECT_FALSE(form1().KeyDown(114, 0));

@@ -1,4 +1,4 @@
-#include "engine/id3/Windows1252.h"
+#include "controls/Windows1252.h"
 
 #include <QList>
 #include <array>

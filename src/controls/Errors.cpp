@@ -7,16 +7,20 @@ namespace sonarium {
 namespace {
 // Skipped statements are part of the program's normal flow (a photo that isn't there, a
 // picture index a skin doesn't have), so they are silent unless SONARIUM_DEBUG is set.
+void defaultReporter(const QString& what) {
+    static const bool debug = qEnvironmentVariableIsSet("SONARIUM_DEBUG");
+    if (debug) std::fprintf(stderr, "sonarium: skipped: %s\n", what.toLocal8Bit().constData());
+}
+
 std::function<void(const QString&)>& reporter() {
-    static std::function<void(const QString&)> r = [](const QString& what) {
-        static const bool debug = qEnvironmentVariableIsSet("SONARIUM_DEBUG");
-        if (debug) std::fprintf(stderr, "sonarium: skipped: %s\n", what.toLocal8Bit().constData());
-    };
+    static std::function<void(const QString&)> r = defaultReporter;
     return r;
 }
 }  // namespace
 
 void setSkippedErrorReporter(std::function<void(const QString&)> r) { reporter() = std::move(r); }
+
+void resetSkippedErrorReporter() { reporter() = defaultReporter; }
 
 void reportSkippedError(const QString& what) {
     if (reporter()) reporter()(what);

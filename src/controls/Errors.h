@@ -48,6 +48,8 @@ bool tryStep(const std::function<void()>& statement);
 
 // Where swallowed failures are reported (stderr with SONARIUM_DEBUG set; tests may collect them).
 void setSkippedErrorReporter(std::function<void(const QString&)> reporter);
+// Back to the program's own reporter.
+void resetSkippedErrorReporter();
 void reportSkippedError(const QString& what);
 
 }  // namespace sonarium

@@ -156,9 +156,7 @@ TEST(QtEventLoopTest, AFailureInAnEventIsLoggedAndTheLoopGoesOn) {
     loop.post([] { throw RuntimeError(RuntimeError::FileNotFound, "File not found"); });
     loop.post([&] { after = true; });
     loop.waitUntil([&] { return after; });
-    setSkippedErrorReporter([](const QString& what) {
-        std::fprintf(stderr, "sonarium: skipped: %s\n", what.toLocal8Bit().constData());
-    });
+    resetSkippedErrorReporter();
     EXPECT_EQ(reported, QStringList({"error 53: File not found"}));
 }
 

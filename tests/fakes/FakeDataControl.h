@@ -1,16 +1,9 @@
 #pragma once
-// A small in-memory stand-in for the data control: it keeps the three settings, records
-// Refresh, Close, executed statements and created databases in the call log, and holds the
-// SongData rows that the test seeds. It does not read SQL: the record set is every row in the
-// order added, whatever the record source says. FindFirst understands only
-// "Column = 'value'" (case-insensitive); other criteria throw.
-//
-// Kept from the real engine, because the library relies on it: RecordCount counts the rows
-// visited (plus one per AddNew and Update), AbsolutePosition is -1 without a current row, and
-// Update fails on a null or duplicate [Path\File] and on a value wider than its column.
-#include <QVariantMap>
+// The data control as the shell sees it: it keeps the three settings and records Refresh,
+// Close, executed statements and created databases in the call log. Its record set is empty,
+// with no current record; the library's own tests use the real SQLite engine on temporary
+// files instead of a second, imitated one.
 #include <memory>
-#include <vector>
 
 #include "CallLog.h"
 #include "controls/DataControl.h"
@@ -22,18 +15,11 @@ public:
     FakeDataControl();
     ~FakeDataControl() override;
 
-    // --- Set-up (tests) ---
-    // Adds a SongData row; columns by name, missing ones null.
-    void addRecord(const QVariantMap& values);
     // While set, Refresh throws RuntimeError with this engine text ("" clears it).
     void setRefreshError(const QString& text) { refreshError_ = text; }
-
-    // --- Looking in (tests) ---
-    const std::vector<QVariantMap>& records() const;
     // The statements executed on any database, in order.
-    QStringList statements() const;
+    QStringList statements() const { return statements_; }
 
-    // --- DataControl ---
     QString DatabaseName() const override { return databaseName_; }
     void setDatabaseName(const QString& file) override;
     QString Connect() const override { return connect_; }
@@ -41,22 +27,20 @@ public:
     QString RecordSource() const override { return recordSource_; }
     void setRecordSource(const QString& source) override;
     void Refresh() override;
-    Database& database() override;
-    Recordset& recordset() override;
+    Database& database() override { return *database_; }
+    Recordset& recordset() override { return *records_; }
     std::unique_ptr<Database> CreateDatabase(const QString& file, const QString& locale) override;
 
 private:
-    class Records;
     class LoggingDatabase;
-    friend class Records;
-    friend class LoggingDatabase;
+    class EmptyRecords;
 
     // Empty at first: the starting properties are the form's to set, as for the real one.
     QString databaseName_, connect_, recordSource_;
     QString refreshError_;
     QStringList statements_;
-    std::unique_ptr<Records> records_;
-    std::unique_ptr<LoggingDatabase> database_;
+    std::unique_ptr<Database> database_;
+    std::unique_ptr<Recordset> records_;
 };
 
 }  // namespace sonarium

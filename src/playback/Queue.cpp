@@ -1,17 +1,14 @@
-// The song queue and the title pane.
+// The queue's list click and its running time.
 #include "controls/Errors.h"
 #include "shell/Form1.h"
 #include "shell/TextFields.h"
 
 namespace sonarium {
 
-// Reads CurrentDir into the title pane. The title pane lands with the rest of the queue work.
-void Form1::GetTitles() {}
-
 // A click only prepares the row while nothing plays; during play it switches to it at once.
 void Form1::lstSongs_Click() {
     if (M.QueueClickOff) return;
-    auto step = [](const std::function<void()>& s) { return tryStep(s); };
+    const auto step = tryStep;
     step([&] { M.CurrentSong = std::int16_t(lstSongs.ListIndex()); });
     step([&] { setCaption(CaptionWithAlarm(lstSongs.Text())); });
     if (!M.SongPlaying) {
@@ -29,7 +26,7 @@ void Form1::lstSongs_Click() {
 // The running time from the selected row to the end. The player can't be borrowed during
 // play, and it is left open on the current song.
 void Form1::GetTotTime() {
-    auto step = [](const std::function<void()>& s) { return tryStep(s); };
+    const auto step = tryStep;
     if (M.SongPlaying) return;
     if (lstSongs.ListCount() == 0) {
         step([&] { lblTotTime.setCaption(QString()); });

@@ -42,6 +42,47 @@ void Form1::wireHandlers() {
     mnuLoopSongSet.onClick = [this] { mnuLoopSongSet_Click(); };
     mnuLoopSong.onClick = [this] { mnuLoopSong_Click(); };
     mnuStopAfterSong.onClick = [this] { mnuStopAfterSong_Click(); };
+
+    // Queue and title pane
+    Dir1.onChange = [this] { Dir1_Change(); };
+    for (int i = 0; i < Title.size(); ++i) Title[i].onDblClick = [this, i] { Title_DblClick(i); };
+    cmdUp.onClick = [this] { cmdUp_Click(); };
+    cmdDown.onClick = [this] { cmdDown_Click(); };
+    cmdAddAll.onClick = [this] { cmdAddAll_Click(); };
+    cmdAddToQueue.onClick = [this] { cmdAddToQueue_Click(); };
+    cmdDelete.onClick = [this] { cmdDelete_Click(); };
+    cmdDeleteAll.onClick = [this] { cmdDeleteAll_Click(); };
+    cmdShuffle.onClick = [this] { cmdShuffle_Click(); };
+    mnuOrdered.onClick = [this] { mnuOrdered_Click(); };
+    mnuRandom.onClick = [this] { Shuffle(); };
+
+    // Fade, position and speed
+    Timer1.onTimer = [this] { Timer1_Timer(); };
+    C.mp3.onFrameNotify = [this](std::int32_t frame) { FrameNotify(frame); };
+    imgButtonSong.onMouseDown = [this](int b, int s, double x, double y) { imgButtonSong_MouseDown(b, s, x, y); };
+    imgButtonSong.onMouseMove = [this](int b, int s, double x, double y) { imgButtonSong_MouseMove(b, s, x, y); };
+    imgButtonSong.onMouseUp = [this](int b, int s, double x, double y) { imgButtonSong_MouseUp(b, s, x, y); };
+    cmdSpeedUp.onClick = [this] { cmdSpeedUp_Click(); };
+    cmdSpeedDown.onClick = [this] { cmdSpeedDown_Click(); };
+
+    // Mixer and tone
+    auto wireSlider = [this](Image& slider, ToneSlider which) {
+        slider.onMouseDown = [this, which](int, int, double, double) { ToneSlider_MouseDown(which); };
+        slider.onMouseMove = [this, which](int, int, double, double y) { ToneSlider_MouseMove(which, y); };
+        slider.onMouseUp = [this, which](int, int, double, double) { ToneSlider_MouseUp(which); };
+    };
+    wireSlider(SLiderVolume, ToneSlider::Volume);
+    wireSlider(SliderTreble, ToneSlider::Treble);
+    wireSlider(SliderBass, ToneSlider::Bass);
+    cmdSaveTB.onClick = [this] { cmdSaveTB_Click(); };
+    cmdSaveTBDefaults.onClick = [this] { cmdSaveTBDefaults_Click(); };
+
+    // Alarm
+    tmrAlarm.onTimer = [this] { tmrAlarm_Timer(); };
+    mnuSetAlarmTime.onClick = [this] { mnuSetAlarmTime_Click(); };
+    mnuAlarmOnOff.onClick = [this] { mnuAlarmOnOff_Click(); };
+    cmdSetTimeOK.onClick = [this] { cmdSetTimeOK_Click(); };
+    cmdSetTimeCancel.onClick = [this] { cmdSetTimeCancel_Click(); };
 }
 
 }  // namespace sonarium

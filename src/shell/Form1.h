@@ -6,7 +6,10 @@
 //   library/   database, tags, scanner, grid, criteria, song sets, file browser
 //   conversion/, info/, skins/  likewise.
 #include <QString>
+#include <QStringList>
+#include <array>
 #include <cstdint>
+#include <utility>
 
 #include "controls/Components.h"
 #include "controls/Form.h"
@@ -57,6 +60,7 @@ public:
     void PlaceSliders();
     void SendToneToMixer();
     void Drive1_Change();
+    void Dir1_Change();
     void SelectDrive(int drive);
     void GetTitles();
     void LoadSkin();
@@ -73,6 +77,7 @@ public:
     QString CaptionWithAlarm(const QString& text) const;
     // Rows 0 to 500 have a directory; any other row fails, so each step that needs it is skipped.
     const QString& SongPathOf(int row) const;
+    QString& SongPathOf(int row) { return const_cast<QString&>(std::as_const(*this).SongPathOf(row)); }
     // The six photo files of a row, folder's then song's, each GIF, BMP, JPG: each one that
     // loads replaces the one before.
     void TryPhotos(Image& photo, int row);
@@ -99,10 +104,55 @@ public:
     void StartFade();
     void PlaceVolumeSlider(double value);
 
+    // ---- Playback: queue and title pane ----
+    void FillTitles();
+    void cmdUp_Click();
+    void cmdDown_Click();
+    void Title_DblClick(int index);
+    void cmdAddAll_Click();
+    void cmdAddToQueue_Click();
+    void cmdDelete_Click();
+    void cmdDeleteAll_Click();
+    void cmdShuffle_Click();
+    void Shuffle();
+    void mnuOrdered_Click();
+    // Appends a row and its directory, as every way of filling the queue does.
+    void AddToQueue(const QString& name, const QString& dir);
+
+    // ---- Playback: fade, position and speed ----
+    void Timer1_Timer();
+    void FrameNotify(std::int32_t frame);
+    void imgButtonSong_MouseDown(int button, int shift, double x, double y);
+    void imgButtonSong_MouseMove(int button, int shift, double x, double y);
+    void imgButtonSong_MouseUp(int button, int shift, double x, double y);
+    void cmdSpeedUp_Click();
+    void cmdSpeedDown_Click();
+
+    // ---- Playback: mixer and per-song tone ----
+    void ControlFound(const QString& name, std::int32_t id0, std::int32_t id1);
+    void SaveTB();
+    // The three sliders of the window: which value each drives and where its travel lies.
+    enum class ToneSlider { Volume, Treble, Bass };
+    void ToneSlider_MouseDown(ToneSlider which);
+    void ToneSlider_MouseMove(ToneSlider which, double y);  // y in the slider, in twips
+    void ToneSlider_MouseUp(ToneSlider which);
+    void cmdSaveTB_Click();
+    void cmdSaveTBDefaults_Click();
+
+    // ---- Playback: alarm ----
+    void tmrAlarm_Timer();
+    void mnuSetAlarmTime_Click();
+    void mnuAlarmOnOff_Click();
+    void cmdSetTimeOK_Click();
+    void cmdSetTimeCancel_Click();
+
     // ---- Procedures of later work that loading and the transport call ----
     void LoadRTF(const QString& file);                 // info pages
+    void ClearRTF();                                   // empties the info viewer
+    void GetRTF();                                     // the directory's info pages
     void LoadKaraoke(const QString& file);             // karaoke timings of the song
     void WriteKaraoke();                               // ends a karaoke recording
+    void KaraokeFrame(std::int32_t frame);             // records and follows karaoke points
     void CheckForBlade();                              // the external encoder's stop question
     void ConversionPlay();                             // Play in the CD and WAV conversion modes
     bool Mp3ToWavTargetOk();                           // the overwrite question of MP3 to WAV
@@ -119,6 +169,7 @@ public:
     void MiniGetSongs();
     void MiniSelectRow(int row);
     void MiniShowLoop(bool on);
+    void MiniShowElapsed(std::int32_t minutes, std::int32_t seconds);
 
     // ---- Form-level state ----
     bool StopRequested = false;
@@ -132,6 +183,13 @@ public:
     std::int32_t BarWidth = 0;
     std::int32_t EncoderBitRate = 0, EncoderSampleRate = 0;
     bool SearchRunning = false;
+    QStringList Titles;  // 0-based here; entry i is the label text source of Titles(i + 1)
+    std::int16_t TitleCount = 0, TitleTop = 0;
+    bool SliderDragging = false;
+    std::int16_t LastSongStep = 0, LastMiniStep = 0;
+    std::int32_t LastFrame = 0;  // the frame of the last notification, for the desktop's position
+    std::array<std::int32_t, 2> VUMeterControl{};
+    bool AlarmDone = false;
     std::int32_t PeakMaximum = 0, LampStep = 0;
     int DatabaseAttached = 0;  // the focus handler's own flag
     bool closing_ = false;

@@ -17,5 +17,6 @@ void Form1::MiniSongFollows() {}
 void Form1::MiniGetSongs() {}
 void Form1::MiniSelectRow(int) {}
 void Form1::MiniShowLoop(bool) {}
+void Form1::MiniShowElapsed(std::int32_t, std::int32_t) {}
 
 }  // namespace sonarium

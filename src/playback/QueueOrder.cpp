@@ -22,7 +22,9 @@ void Form1::Shuffle() {
         return;
     }
     if (lstSongs.ListCount() == 0) return;
-    std::mt19937 random(std::uint32_t(C.loop.wallClock().toMSecsSinceEpoch() ^ C.loop.now()));
+    const auto ms = std::uint64_t(C.loop.wallClock().toMSecsSinceEpoch());
+    std::seed_seq seed{std::uint32_t(ms), std::uint32_t(ms >> 32)};
+    std::mt19937 random(seed);
     std::uniform_real_distribution<double> unit(0.0, 1.0);
     const int n = lstSongs.ListCount() - 1;
     std::vector<int> taken(std::size_t(n) + 1, -1);

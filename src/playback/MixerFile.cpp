@@ -32,8 +32,7 @@ void Form1::SaveMixer() {
 }
 
 // Every read is its own statement: a number that can't be read leaves its variable as it was
-// and reading goes on. Directories and names are read by the field rule, so a comma in either
-// shifts every pair after it. A row past the directory store still gets its name.
+// and reading goes on. The queue follows as a song set stores it.
 void Form1::LoadMixer() {
     const QString file = mixerFile(M.AppDir);
     tryStep([&] {
@@ -54,16 +53,7 @@ void Form1::LoadMixer() {
         read(M.Bass, int32);
         read(M.MiniTop, int32);
         read(M.MiniLeft, int32);
-        tryStep([&] { lstSongs.Clear(); });
-        QString name;
-        for (int n = 0; !in.atEnd(); ++n) {
-            if (!in.atEnd()) tryStep([&] {
-                const QString dir = in.readString();
-                SongPathOf(n) = dir;
-            });
-            if (!in.atEnd()) tryStep([&] { name = in.readString(); });
-            tryStep([&] { lstSongs.AddItem(name); });
-        }
+        ReadQueue(in);
     });
     if (M.Volume < 0) M.Volume = 0;
     if (M.Treble < 0) M.Treble = 0;

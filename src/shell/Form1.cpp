@@ -56,6 +56,11 @@ void Form1::wireHandlers() {
     mnuOrdered.onClick = [this] { mnuOrdered_Click(); };
     mnuRandom.onClick = [this] { Shuffle(); };
 
+    mnuSaveSongSet.onClick = [this] { mnuSaveSongSet_Click(); };
+    mnuLoadSongSet.onClick = [this] { mnuLoadSongSet_Click(); };
+    mnuSongSets.onClick = [this] { mnuSongSets_Click(); };
+    lstSongSets.onDblClick = [this] { lstSongSets_DblClick(); };
+
     // Fade, position and speed
     Timer1.onTimer = [this] { Timer1_Timer(); };
     C.mp3.onFrameNotify = [this](std::int32_t frame) { FrameNotify(frame); };

@@ -19,6 +19,7 @@
 
 namespace sonarium {
 
+class TextFieldReader;
 class FrmGeneral;
 class Form2;
 class FrmMiniPlayer;
@@ -61,6 +62,13 @@ public:
     void SendToneToMixer();
     void Drive1_Change();
     void Dir1_Change();
+    // ---- Library: song sets ----
+    void mnuSaveSongSet_Click();
+    void mnuLoadSongSet_Click();
+    void mnuSongSets_Click();
+    void lstSongSets_DblClick();
+    void GetSongSetsFromMini();
+    void ReadQueue(TextFieldReader& in);  // fills the queue from a Mixer.dat or song set
     void SelectDrive(int drive);
     void GetTitles();
     void LoadSkin();

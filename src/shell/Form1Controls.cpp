@@ -23,7 +23,7 @@ std::vector<Control*> Form1Controls::allControls() const {
         &self->BtnPlay, &self->BtnPause, &self->BtnStop, &self->BtnFade, &self->chkLoop, &self->Ball,
         &self->imgRedBall, &self->imgGreenBall, &self->lblRepeat,
         &self->lstSongs, &self->List1, &self->lstSongSets, &self->cmdUp, &self->cmdDown, &self->cmdAddAll,
-        &self->cmdDeleteAll, &self->cmdDelete, &self->cmdShuffle, &self->lblTotTime, &self->lblSongQueue,
+        &self->cmdDeleteAll, &self->cmdDelete, &self->cmdShuffle, &self->lblTotTime, &self->lblSongQueue, &self->lblDoubleClick,
         &self->lblTime, &self->lblSpeed, &self->imgSLiderSong, &self->imgButtonSong, &self->cmdSpeedDown,
         &self->cmdSpeedUp, &self->lblSpd,
         &self->SLiderVolume, &self->SliderTreble, &self->SliderBass, &self->cmdSaveTB, &self->cmdSaveTBDefaults,

@@ -32,7 +32,7 @@ struct Form1Controls {
     ControlArray<Label> Title{"Title", 12};
     Image cmdUp{"cmdUp"}, cmdDown{"cmdDown"}, cmdAddAll{"cmdAddAll"}, cmdDeleteAll{"cmdDeleteAll"},
         cmdDelete{"cmdDelete"}, cmdShuffle{"cmdShuffle"};
-    Label lblTotTime{"lblTotTime"}, lblSongQueue{"lblSongQueue"};
+    Label lblTotTime{"lblTotTime"}, lblSongQueue{"lblSongQueue"}, lblDoubleClick{"lblDoubleClick"};
 
     // Position and speed
     Label lblTime{"lblTime"}, lblSpeed{"lblSpeed"};

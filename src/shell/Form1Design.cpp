@@ -53,7 +53,11 @@ void Form1::design() {
     txtComment.setDescription(QStringLiteral("Comment"));
     place(cboGenre, &PanelSongInfo, 4, 107, 223, 20);
     cboGenre.setDescription(QStringLiteral("Genre"));
-    place(lstSongSets, &PicTopPanel, 6, 9, 231, 128);
+    place(lstSongSets, &PicTopPanel, 6, 9, 231, 112);
+    lstSongSets.setDescription(QStringLiteral("Song sets"));
+    place(lblDoubleClick, &PicTopPanel, 6, 122, 231, 15);
+    lblDoubleClick.setCaption(QStringLiteral("Double click to load"));
+    lblDoubleClick.setVisible(false);
     place(PanelCdToMP3, &PicTopPanel, 6, 9, 231, 128);
     PanelCdToMP3.setVisible(false);
     place(PicEncode, &PanelCdToMP3, 0, 0, 231, 128);

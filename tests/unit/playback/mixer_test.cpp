@@ -57,15 +57,19 @@ TEST_F(Mixer, HandEditedFilesAreReadFieldByField) {
     EXPECT_EQ(rows(), QStringList({"Song", "Song"}));
     EXPECT_EQ(M().SongPath[1], "/e/");
 
-    // A queue longer than the directory store: the rows past 500 keep their names only.
+    // A queue longer than the directory store: past row 500 no directory is read, so each
+    // value becomes a row of its own.
     QByteArray big;
     for (int i = 0; i < 503; ++i) big += "/q/\r\nS" + QByteArray::number(i) + "\r\n";
     write("Mixer.dat", " 40 \r\n 50 \r\n 50 \r\n 0 \r\n 0 \r\n" + big);
     restart();
-    EXPECT_EQ(form1().lstSongs.ListCount(), 503);
-    EXPECT_EQ(form1().lstSongs.List(502), "S502");
+    EXPECT_EQ(form1().lstSongs.ListCount(), 505);
+    EXPECT_EQ(form1().lstSongs.List(500), "S500");
+    EXPECT_EQ(form1().lstSongs.List(501), "/q/");
+    EXPECT_EQ(form1().lstSongs.List(504), "S502");
     form1().SaveMixer();
-    EXPECT_EQ(read("Mixer.dat").count("/q/"), 501) << "rows past 500 are written without a directory";
+    EXPECT_TRUE(read("Mixer.dat").endsWith("/q/\r\nS500\r\n/q/\r\nS501\r\n/q/\r\nS502\r\n"))
+        << "rows past 500 are written without a directory";
 }
 
 TEST_F(Mixer, SongToneFilesAndTheReturnToDefaults) {

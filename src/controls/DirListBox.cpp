@@ -27,6 +27,9 @@ QString childPath(const QString& dir, const QString& name) {
 
 DirListBox::DirListBox(QString name, Volumes& volumes)
     : RowList(std::move(name)), volumes_(volumes), path_(QDir::cleanPath(QDir::currentPath())) {
+    // The process's current directory is its drive's current directory, where choosing that
+    // drive leads.
+    setDriveDirectory(path_);
     readRows();
 }
 

@@ -1,5 +1,7 @@
 #include "controls/DriveListBox.h"
 
+#include <QDir>
+
 #include "controls/Errors.h"
 
 namespace sonarium {
@@ -19,7 +21,9 @@ QString volumeRootOf(const std::vector<Volume>& volumes, const QString& path) {
 
 DriveListBox::DriveListBox(QString name, Volumes& volumes) : Control(std::move(name)), source_(volumes) {
     volumes_ = source_.list();
-    if (!volumes_.empty()) drive_ = volumes_.front().root;
+    // The drive in use is the one of the current directory.
+    drive_ = volumeRootOf(volumes_, QDir::cleanPath(QDir::currentPath()));
+    if (drive_.isEmpty() && !volumes_.empty()) drive_ = volumes_.front().root;
     index_ = rowOf(drive_);
 }
 

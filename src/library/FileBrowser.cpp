@@ -1,5 +1,7 @@
 // The file browser's directory change: the directory's songs become the title pane, and its
 // picture and info pages come up.
+#include <QDir>
+
 #include "controls/Errors.h"
 #include "shell/Form1.h"
 #include "skins/FrmMiniPlayer.h"
@@ -46,6 +48,60 @@ void Form1::Dir1_Change() {
     for (const QString& kind : kinds) tryStep([&] { frmMiniPlayer.Photo.setPicture(C.pictures.load(base + kind)); });
     SizePhoto();
     setMousePointer(DefaultPointer);
+}
+
+// A scan moves the first level itself. Otherwise the directory list goes to the drive's current
+// directory; a drive that isn't ready is asked about until the user gives up, and then the drive
+// list goes back to the drive in use.
+void Form1::Drive1_Change() {
+    if (SearchRunning) {
+        tryStep([&] { Dir1.setPath(Drive1.Drive()); });
+        return;
+    }
+    const QString oldPath = Dir1.Path();
+    setMousePointer(Hourglass);
+    bool retry;
+    do {
+        retry = false;
+        try {
+            Dir1.setPath(Drive1.Drive());
+        } catch (const RuntimeError&) {
+            tryStep([&] { Dir1.setPath(oldPath); });
+            if (C.dialogs.msgBox(QStringLiteral("Not ready reading Drive ") + Drive1.Drive() + QStringLiteral(" Retry?"),
+                                 MsgButtons::YesNo, MsgIcon::Exclamation, QStringLiteral("Change Drive")) == MsgResult::Yes) {
+                retry = true;
+            } else {
+                tryStep([&] { Drive1.setDrive(Dir1.Path()); });
+                setMousePointer(DefaultPointer);
+            }
+        }
+    } while (retry);
+}
+
+// During a scan, a directory the user highlights takes effect when the list loses the focus.
+void Form1::Dir1_LostFocus() {
+    if (SearchRunning) tryStep([&] { Dir1.setPath(Dir1.List(Dir1.ListIndex())); });
+}
+
+// A right click offers a new directory below the one shown.
+void Form1::Dir1_MouseDown(int button, int, double, double) {
+    if (button != RightButton) return;
+    try {
+        const QString answer = C.dialogs.inputBox(QStringLiteral("Enter name of new directory"),
+                                                  QStringLiteral("Add Directory to ") + Dir1.Path(), QString());
+        if (answer.isEmpty()) return;
+        const QString created = Dir1.Path() == QLatin1String("/") ? Dir1.Path() + answer : Dir1.Path() + u'/' + answer;
+        if (C.dialogs.msgBox(QStringLiteral("Create directory - ") + created, MsgButtons::OKCancel, MsgIcon::None,
+                             QStringLiteral("New Directory")) != MsgResult::OK)
+            return;
+        // One new directory, named by the user: a slash would make it a path elsewhere.
+        if (answer.contains(u'/') || !QDir().mkdir(created))
+            throw RuntimeError(RuntimeError::PathFileAccess, QStringLiteral("Path/File access error"));
+        Dir1.setPath(created);
+    } catch (const RuntimeError&) {
+        C.dialogs.msgBox(QStringLiteral("Cannot create directory - Path/File access error"), MsgButtons::OK,
+                         MsgIcon::Exclamation, QStringLiteral("Create directory"));
+    }
 }
 
 }  // namespace sonarium

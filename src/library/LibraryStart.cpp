@@ -12,7 +12,4 @@ void Form1::UpdateRecordCount() {}
 
 void Form1::imgButon_Click(int) {}
 
-// The file browser's first directory comes with the library work.
-void Form1::Drive1_Change() {}
-
 }  // namespace sonarium

@@ -45,6 +45,9 @@ void Form1::wireHandlers() {
 
     // Queue and title pane
     Dir1.onChange = [this] { Dir1_Change(); };
+    Drive1.onChange = [this] { Drive1_Change(); };
+    Dir1.onLostFocus = [this] { Dir1_LostFocus(); };
+    Dir1.onMouseDown = [this](int b, int s, double x, double y) { Dir1_MouseDown(b, s, x, y); };
     for (int i = 0; i < Title.size(); ++i) Title[i].onDblClick = [this, i] { Title_DblClick(i); };
     cmdUp.onClick = [this] { cmdUp_Click(); };
     cmdDown.onClick = [this] { cmdDown_Click(); };

@@ -62,6 +62,8 @@ public:
     void SendToneToMixer();
     void Drive1_Change();
     void Dir1_Change();
+    void Dir1_LostFocus();
+    void Dir1_MouseDown(int button, int shift, double x, double y);
     // ---- Library: song sets ----
     void mnuSaveSongSet_Click();
     void mnuLoadSongSet_Click();

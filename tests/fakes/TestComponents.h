@@ -35,6 +35,9 @@ struct TestComponents {
     QString commandLine;
     QString startDir;
 
+    // Every machine has its root volume; tests add more.
+    TestComponents() { volumes.add(QStringLiteral("/"), QStringLiteral("System")); }
+
     Components components() {
         return Components{loop,  dialogs, desktop, pictures, volumes, mp3,       mp32, encoder,
                           cd,    mixer,   peak,    data,     processes, commandLine, startDir};

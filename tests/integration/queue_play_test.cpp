@@ -23,6 +23,7 @@ class QueuePlay : public ::testing::Test {
 protected:
     void SetUp() override {
         ASSERT_TRUE(dir.isValid());
+        volumes.add(QStringLiteral("/"));
         previous = QDir::currentPath();
         QDir::setCurrent(dir.path());
         Mp3Recipe recipe;

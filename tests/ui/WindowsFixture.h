@@ -17,7 +17,6 @@ class WindowsFixture : public ProgramFixture {
 protected:
     void SetUp() override {
         ProgramFixture::SetUp();
-        tc.volumes.add(QStringLiteral("/"), QStringLiteral("System"));
         views = std::make_unique<Views>(program());
     }
     void TearDown() override {

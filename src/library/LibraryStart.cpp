@@ -4,8 +4,6 @@
 namespace sonarium {
 
 // These land with the library work; until then the grid stays empty.
-void Form1::InitGenre() {}
-
 void Form1::MakeDatabase(const QString&) {}
 
 void Form1::UpdateRecordCount() {}

@@ -64,6 +64,14 @@ void Form1::wireHandlers() {
     mnuSongSets.onClick = [this] { mnuSongSets_Click(); };
     lstSongSets.onDblClick = [this] { lstSongSets_DblClick(); };
 
+    cmdUpdateTag.onClick = [this] { UpdateTag(); };
+    for (TextBox* box : {&txtTitle, &txtArtist, &txtAlbum, &txtComment})
+        box->onKeyPress = [box](int& key) { LimitTyping(*box, 30, key); };
+    txtYear.onKeyPress = [this](int& key) { LimitTyping(txtYear, 4, key); };
+    txtTrackTitle.onKeyPress = [](int& key) {
+        if (key == 32) key = 0;
+    };
+
     // Fade, position and speed
     Timer1.onTimer = [this] { Timer1_Timer(); };
     C.mp3.onFrameNotify = [this](std::int32_t frame) { FrameNotify(frame); };

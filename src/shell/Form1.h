@@ -24,6 +24,11 @@ class FrmGeneral;
 class Form2;
 class FrmMiniPlayer;
 
+// The genre texts by number, as the detail box and the grid's genre list show them.
+const QStringList& genreTable();
+// A year typed into a box as the tag's number; RuntimeError when it isn't a number.
+std::int16_t yearNumber(const QString& text);
+
 class Form1 : public Form, public Form1Controls, public Form1Menus {
 public:
     Form1(Module1& m, Components& c, FrmGeneral& general, Form2& form2, FrmMiniPlayer& mini);
@@ -64,6 +69,9 @@ public:
     void Dir1_Change();
     void Dir1_LostFocus();
     void Dir1_MouseDown(int button, int shift, double x, double y);
+    // ---- Library: tags ----
+    void UpdateTag();
+    static void LimitTyping(const TextBox& box, int limit, int& keyAscii);
     // ---- Library: song sets ----
     void mnuSaveSongSet_Click();
     void mnuLoadSongSet_Click();

@@ -30,7 +30,7 @@ std::vector<Control*> Form1Controls::allControls() const {
         &self->PanelVU, &self->imgVUGreen, &self->imgVUAmber, &self->imgVURed, &self->imgVUPurple,
         &self->PanelPhoto, &self->PanelSongInfo, &self->Photo, &self->imgMpeg3, &self->Image8, &self->Image9,
         &self->imgMS, &self->txtTitle, &self->txtArtist, &self->txtAlbum, &self->txtYear, &self->txtComment,
-        &self->cboGenre, &self->lblSongTitile, &self->lblBitrate, &self->lblFrequency, &self->lblSongDuration,
+        &self->cboGenre, &self->cmdUpdateTag, &self->lblSongTitile, &self->lblBitrate, &self->lblFrequency, &self->lblSongDuration,
         &self->PanelCdToMP3, &self->cboBitRate, &self->cboSampleRate, &self->lblBtRate, &self->lblSampleRate,
         &self->Label11, &self->lblTrackProgress, &self->lblBladeEncTime, &self->txtTrackTitle,
         &self->ShapeBack, &self->Shape1, &self->chkUseInOut, &self->cmdSetPunchInOut, &self->lblPunchInOut,

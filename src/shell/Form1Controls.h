@@ -50,7 +50,8 @@ struct Form1Controls {
 
     // Photo and song details
     Panel PanelPhoto{"PanelPhoto"}, PanelSongInfo{"PanelSongInfo"};
-    Image Photo{"Photo"}, imgMpeg3{"imgMpeg3"}, Image8{"Image8"}, Image9{"Image9"}, imgMS{"imgMS"};
+    Image Photo{"Photo"}, imgMpeg3{"imgMpeg3"}, Image8{"Image8"}, Image9{"Image9"}, imgMS{"imgMS"},
+        cmdUpdateTag{"cmdUpdateTag"};
     TextBox txtTitle{"txtTitle"}, txtArtist{"txtArtist"}, txtAlbum{"txtAlbum"}, txtYear{"txtYear"},
         txtComment{"txtComment"};
     ComboBox cboGenre{"cboGenre"};

@@ -38,21 +38,18 @@ void Form1::design() {
     Image8.setVisible(false);
     Image9.setVisible(false);
     place(PanelSongInfo, &PicTopPanel, 6, 9, 231, 128);
-    const std::pair<TextBox*, int> details[] = {{&txtTitle, 30}, {&txtArtist, 30}, {&txtAlbum, 30},
-                                                {&txtYear, 4}, {&txtComment, 30}};
     int row = 0;
-    for (auto [box, width] : details) {
-        place(*box, &PanelSongInfo, 4, 2 + row * 21, 223, 19);
-        box->setMaxLength(width);
-        ++row;
-    }
+    for (TextBox* box : {&txtTitle, &txtArtist, &txtAlbum, &txtYear, &txtComment})
+        place(*box, &PanelSongInfo, 4, 2 + row++ * 21, 223, 19);
     txtTitle.setDescription(QStringLiteral("Title"));
     txtArtist.setDescription(QStringLiteral("Artist"));
     txtAlbum.setDescription(QStringLiteral("Album"));
     txtYear.setDescription(QStringLiteral("Year"));
     txtComment.setDescription(QStringLiteral("Comment"));
-    place(cboGenre, &PanelSongInfo, 4, 107, 223, 20);
+    place(cboGenre, &PanelSongInfo, 4, 107, 201, 20);
     cboGenre.setDescription(QStringLiteral("Genre"));
+    place(cmdUpdateTag, &PanelSongInfo, 209, 107, 18, 20);
+    hint(cmdUpdateTag, " Update Tag Info ");
     place(lstSongSets, &PicTopPanel, 6, 9, 231, 112);
     lstSongSets.setDescription(QStringLiteral("Song sets"));
     place(lblDoubleClick, &PicTopPanel, 6, 122, 231, 15);

@@ -105,6 +105,7 @@ TEST_F(ViewsTest, TypingGoesThroughTheKeyPressHandlerAndMaxLengthCutsOnlyTyping)
     form1().PanelSongInfo.setVisible(true);
     auto* year = find<QLineEdit>(main(), "txtYear");
     TextBox& model = form1().txtYear;
+    model.setMaxLength(4);
     // Digits only, as a year box might want.
     model.onKeyPress = [](int& k) {
         if (k != 8 && (k < '0' || k > '9')) k = 0;

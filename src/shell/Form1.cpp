@@ -65,6 +65,8 @@ void Form1::wireHandlers() {
     lstSongSets.onDblClick = [this] { lstSongSets_DblClick(); };
 
     cmdUpdateTag.onClick = [this] { UpdateTag(); };
+    wireGrid();
+    wireScanner();
     for (TextBox* box : {&txtTitle, &txtArtist, &txtAlbum, &txtComment})
         box->onKeyPress = [box](int& key) { LimitTyping(*box, 30, key); };
     txtYear.onKeyPress = [this](int& key) { LimitTyping(txtYear, 4, key); };

@@ -69,6 +69,12 @@ public:
     void Dir1_Change();
     void Dir1_LostFocus();
     void Dir1_MouseDown(int button, int shift, double x, double y);
+    // ---- Library: grid, order, filter and search ----
+    void wireGrid();
+    // ---- end of grid ----
+    // ---- Library: scanner and manual add ----
+    void wireScanner();
+    // ---- end of scanner ----
     // ---- Library: tags ----
     void UpdateTag();
     static void LimitTyping(const TextBox& box, int limit, int& keyAscii);

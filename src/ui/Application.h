@@ -14,6 +14,7 @@
 #include "engine/StandIns.h"
 #include "engine/audio/SoundProcessor.h"
 #include "engine/player/Mp3Play.h"
+#include "playback/MediaControls.h"
 #include "shell/Program.h"
 #include "ui/QtDesktop.h"
 #include "ui/QtDialogs.h"
@@ -22,6 +23,8 @@
 #include "ui/Views.h"
 
 namespace sonarium {
+
+class MprisService;
 
 class Application {
 public:
@@ -60,6 +63,9 @@ private:
     Program program_;
     Views views_;
     TerminationSignals signals_;
+    // Media keys and the desktop's player applets; absent without a session bus.
+    MediaControls mediaControls_;
+    std::unique_ptr<MprisService> mpris_;
 };
 
 // The platform to ask Qt for, given the session's XDG_SESSION_TYPE and WAYLAND_DISPLAY and the

@@ -85,6 +85,9 @@ TEST(QtEventLoopTest, StopTimerInsideItsOwnHandlerOrWhileItIsOpen) {
     self = loop.startTimer(1, [&] {
         if (++ticks == 2) loop.stopTimer(self);
     });
+    // Wait for the stop first, then long enough that another tick would show, however slowly
+    // a loaded machine delivers the ticks.
+    loop.waitUntil([&] { return ticks >= 2; });
     bool done = false;
     loop.startTimer(20, [&] { done = true; }, true);
     loop.waitUntil([&] { return done; });
@@ -106,6 +109,7 @@ TEST(QtEventLoopTest, StopTimerInsideItsOwnHandlerOrWhileItIsOpen) {
     });
     for (QTimer* t : loop.findChildren<QTimer*>())
         if (t->isActive()) openTimer = t;
+    loop.waitUntil([&] { return stoppedWhileOpen; });
     done = false;
     loop.startTimer(20, [&] { done = true; }, true);
     loop.waitUntil([&] { return done; });

@@ -1,0 +1,36 @@
+#include "ui/mpris/MprisPlayerAdaptor.h"
+
+#include "ui/views/ControlSync.h"
+
+namespace sonarium {
+
+MprisPlayerAdaptor::MprisPlayerAdaptor(QObject* parent, MediaControls& controls)
+    : QDBusAbstractAdaptor(parent), controls_(controls) {}
+
+QVariantMap MprisPlayerAdaptor::metadataOf(const SongInfo& song) {
+    QVariantMap map;
+    if (song.row < 0) {
+        map.insert(QStringLiteral("mpris:trackid"),
+                   QVariant::fromValue(QDBusObjectPath(QStringLiteral("/org/mpris/MediaPlayer2/TrackList/NoTrack"))));
+        return map;
+    }
+    // The queue row names the track: the same song queued twice is two tracks.
+    map.insert(QStringLiteral("mpris:trackid"),
+               QVariant::fromValue(QDBusObjectPath(QStringLiteral("/org/sonarium/Track/%1").arg(song.row))));
+    if (song.lengthUs > 0) map.insert(QStringLiteral("mpris:length"), qlonglong(song.lengthUs));
+    map.insert(QStringLiteral("xesam:title"), song.title);
+    if (!song.artist.isEmpty()) map.insert(QStringLiteral("xesam:artist"), QStringList{song.artist});
+    if (!song.album.isEmpty()) map.insert(QStringLiteral("xesam:album"), song.album);
+    map.insert(QStringLiteral("xesam:url"), song.url);
+    return map;
+}
+
+void MprisPlayerAdaptor::setVolume(double volume) { feed([&] { controls_.setVolume(volume); }); }
+void MprisPlayerAdaptor::Play() { feed([&] { controls_.play(); }); }
+void MprisPlayerAdaptor::Pause() { feed([&] { controls_.pause(); }); }
+void MprisPlayerAdaptor::PlayPause() { feed([&] { controls_.playPause(); }); }
+void MprisPlayerAdaptor::Stop() { feed([&] { controls_.stop(); }); }
+void MprisPlayerAdaptor::Next() { feed([&] { controls_.next(); }); }
+void MprisPlayerAdaptor::Previous() { feed([&] { controls_.previous(); }); }
+
+}  // namespace sonarium

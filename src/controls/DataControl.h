@@ -3,6 +3,9 @@
 // counts the records visited, AbsolutePosition is negative without a current record, Update
 // fails on a duplicate or null key and on a value wider than its column. Statements are in the
 // Jet dialect; every failure throws RuntimeError with the engine's text.
+// Writing a value wider than its column fails at once and the field keeps what it had, so a
+// scan that skips the failed write stores the record with that field empty (or, for the key,
+// fails at Update on the null key).
 #include <QString>
 #include <QVariant>
 #include <cstdint>
@@ -14,7 +17,7 @@ class Field {
 public:
     virtual ~Field() = default;
     virtual QVariant Value() const = 0;
-    virtual void setValue(const QVariant& v) = 0;  // into the edit buffer
+    virtual void setValue(const QVariant& v) = 0;  // into the edit buffer; needs AddNew or Edit
     virtual QString Name() const = 0;
     virtual int Size() const = 0;  // column width; 0 for a memo
 };

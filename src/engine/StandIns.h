@@ -52,29 +52,4 @@ public:
     void CloseHandle(std::int64_t) override {}
 };
 
-
-
-// Keeps its three settings; everything that would open or create a database file fails with
-// "No database engine yet". The record set is empty and has no current record.
-class StandInDataControl : public DataControl {
-public:
-    StandInDataControl();
-    ~StandInDataControl() override;
-    QString DatabaseName() const override { return databaseName_; }
-    void setDatabaseName(const QString& file) override { databaseName_ = file; }
-    QString Connect() const override { return connect_; }
-    void setConnect(const QString& connect) override { connect_ = connect; }
-    QString RecordSource() const override { return recordSource_; }
-    void setRecordSource(const QString& source) override { recordSource_ = source; }
-    void Refresh() override;
-    Database& database() override;
-    Recordset& recordset() override;
-    std::unique_ptr<Database> CreateDatabase(const QString& file, const QString& locale) override;
-
-private:
-    QString databaseName_, connect_, recordSource_;
-    std::unique_ptr<Database> database_;
-    std::unique_ptr<Recordset> recordset_;
-};
-
 }  // namespace sonarium

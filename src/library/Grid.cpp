@@ -5,4 +5,6 @@ namespace sonarium {
 
 void Form1::wireGrid() {}
 
+void Form1::AlignButtons() {}
+
 }  // namespace sonarium

@@ -65,6 +65,11 @@ void Form1::wireHandlers() {
     lstSongSets.onDblClick = [this] { lstSongSets_DblClick(); };
 
     cmdUpdateTag.onClick = [this] { UpdateTag(); };
+    mnuCreateDatabase.onClick = [this] { mnuCreateDatabase_Click(); };
+    mnuDefaultDatabase.onClick = [this] { mnuDefaultDatabase_Click(); };
+    mnuDatabase.onClick = [this] { mnuDatabase_Click(); };
+    imgDataBase.onClick = [this] { mnuDatabase_Click(); };
+    cmdDatabaseClose.onClick = [this] { mnuDatabase_Click(); };
     wireGrid();
     wireScanner();
     for (TextBox* box : {&txtTitle, &txtArtist, &txtAlbum, &txtComment})

@@ -69,8 +69,17 @@ public:
     void Dir1_Change();
     void Dir1_LostFocus();
     void Dir1_MouseDown(int button, int shift, double x, double y);
+    // ---- Library: the database ----
+    void mnuCreateDatabase_Click();
+    void mnuDefaultDatabase_Click();
+    void mnuDatabase_Click();  // also the library button and the panel's close button
+    QString SqlSelect, SqlOrder;
+    std::int16_t OrderColumn = 0, MenuColumn = 0;
+    bool FilterOn = false;
+    std::int32_t RecordTotal = 0;
     // ---- Library: grid, order, filter and search ----
     void wireGrid();
+    void AlignButtons();
     // ---- end of grid ----
     // ---- Library: scanner and manual add ----
     void wireScanner();

@@ -13,6 +13,7 @@
 #include "engine/QtPictureLoader.h"
 #include "engine/StandIns.h"
 #include "engine/audio/SoundProcessor.h"
+#include "engine/data/SqliteDataControl.h"
 #include "engine/player/Mp3Play.h"
 #include "playback/MediaControls.h"
 #include "shell/Program.h"
@@ -57,7 +58,7 @@ private:
     StandInCdReader cd_;
     EngineMixer mixer_;
     EnginePeakMeter peak_;
-    StandInDataControl data_;
+    SqliteDataControl data_;
     StandInProcesses processes_;
     Components components_;
     Program program_;

@@ -1,0 +1,106 @@
+// The song database: making a new one, choosing the one in use, and the panel that shows it.
+#include <QDir>
+#include <QFile>
+
+#include "controls/Errors.h"
+#include "controls/FileNames.h"
+#include "shell/Form1.h"
+
+namespace sonarium {
+
+namespace {
+const QString Locale = QStringLiteral(";LANGID=0x0409;CP=1252;COUNTRY=0");
+const QString Password = QStringLiteral(";PWD=qvdnhzr;");
+
+// The table and its indexes, in the order they are made. Index 16 is not used.
+QStringList schema() {
+    QStringList s = {QStringLiteral(
+        "Create Table SongData ( Path Text(80), File Text(50), [Song Title] Text(30), Artist Text(30), "
+        "Album Text(30), Comment Text(30), Genre Text(30), Duration Text(8), Year Text(4), Tempo Text(30), "
+        "Lyricist Text(30), Composer Text(30), [Key] Text(20), [Web Address] Text(40), [E-Mail] Text(30), "
+        "Info Memo, [Path\\File] Text(100));")};
+    const char* indexed[] = {"Path",     "File",     "[Song Title]", "Artist", "Album",         "Comment",
+                             "Genre",    "Duration", "Year",         "Tempo",  "Lyricist",      "Composer",
+                             "[Key]",    "[Web Address]", "[E-Mail]"};
+    int n = 1;
+    for (const char* column : indexed)
+        s << QStringLiteral("Create Index NewIndex%1 On SongData(%2) With Ignore Null;").arg(n++).arg(QLatin1String(column));
+    s << QStringLiteral("Create Index NewIndex17 On SongData([Path\\File]) With Primary;");
+    return s;
+}
+
+FileDialogRequest databaseDialog(const QString& appDir) {
+    FileDialogRequest request;
+    request.filter = QStringLiteral("Database|*.MDB");
+    request.initDir = appDir;
+    return request;
+}
+}  // namespace
+
+// Callers ask before an existing file is replaced. A failure reaches the caller.
+void Form1::MakeDatabase(const QString& file) {
+    const QString existing = resolveFileName(file);
+    if (QFile::exists(existing) && !QFile::remove(existing))
+        throw RuntimeError(RuntimeError::PermissionDenied, QStringLiteral("Permission denied"));
+    std::unique_ptr<Database> db = C.data.CreateDatabase(file, Locale);
+    for (const QString& statement : schema()) db->Execute(statement);
+}
+
+void Form1::mnuCreateDatabase_Click() {
+    const QString name = C.dialogs.openFile(databaseDialog(M.AppDir));
+    QDir::setCurrent(M.AppDir);
+    if (name.isEmpty()) return;
+    if (fileExists(name) &&
+        C.dialogs.msgBox(QStringLiteral("Database already exists - overwrite?"), MsgButtons::YesNo,
+                         MsgIcon::Exclamation, QStringLiteral("Create Database")) == MsgResult::No)
+        return;
+    try {
+        M.DatabasePath = name;
+        MakeDatabase(name);
+        C.data.database().Close();
+        C.data.setDatabaseName(name);
+        C.data.setRecordSource(QStringLiteral("SongData"));
+        C.data.Refresh();
+        SaveConfig();
+    } catch (const RuntimeError& e) {
+        // The database in use may be the one that couldn't be replaced: say so and go on.
+        C.dialogs.msgBox(e.text(), MsgButtons::OK, MsgIcon::Exclamation, QStringLiteral("Create Database"));
+    }
+}
+
+// An error anywhere ends the command with the engine's text; DatabasePath then keeps its value.
+// An empty name still reaches the last step, so the next start falls back to the default.
+void Form1::mnuDefaultDatabase_Click() {
+    try {
+        const QString name = C.dialogs.openFile(databaseDialog(M.AppDir));
+        QDir::setCurrent(M.AppDir);
+        if (!name.isEmpty()) {
+            C.data.database().Close();
+            C.data.setDatabaseName(name);
+            C.data.setConnect(Password);
+            SqlSelect = QStringLiteral("Select * From SongData");
+            C.data.setRecordSource(SqlOrder.isEmpty() ? SqlSelect : SqlSelect + u' ' + SqlOrder);
+            C.data.Refresh();
+        }
+        M.DatabasePath = name;
+        SaveConfig();
+    } catch (const RuntimeError& e) {
+        C.dialogs.msgBox(e.text(), MsgButtons::OK, MsgIcon::Exclamation, QStringLiteral("Database"));
+    }
+}
+
+// The library panel and the two info panels exclude one another.
+void Form1::mnuDatabase_Click() {
+    if (!mnuDatabase.Checked()) {
+        if (mnuInfo.Checked()) tryStep([&] { mnuInfo.Click(); });
+        if (mnuEdit.Checked()) tryStep([&] { mnuEdit.Click(); });
+        PanelDatabase.setVisible(true);
+        mnuDatabase.setChecked(true);
+        tryStep([&] { AlignButtons(); });
+    } else {
+        PanelDatabase.setVisible(false);
+        mnuDatabase.setChecked(false);
+    }
+}
+
+}  // namespace sonarium

@@ -1,0 +1,40 @@
+#pragma once
+// The program on fakes, but with the real data control on a library made in the test's own
+// directory (the default name, SonariumData.mdb), attached as the first activation does.
+#include "ProgramFixture.h"
+#include "engine/data/SqliteDataControl.h"
+
+namespace sonarium {
+
+class LibraryFixture : public ProgramFixture {
+protected:
+    void SetUp() override {
+        ProgramFixture::SetUp();
+        Components c = tc.components();
+        components = std::make_unique<Components>(Components{
+            c.loop, c.dialogs, c.desktop, c.pictures, c.volumes, c.mp3, c.mp32, c.encoder, c.cd, c.mixer, c.peak,
+            data, c.processes, c.commandLine, c.startDir});
+        prog = std::make_unique<Program>(*components);
+        program().Main();
+        form1().Form_Activate();  // the first activation attaches the library
+        tc.dialogs.clear();
+    }
+
+    // A record as the scanner would store it, for tests that need a library with content.
+    void addRecord(const QString& dir, const QString& file, const QString& artist = {}, const QString& album = {},
+                   const QString& genre = {}) {
+        Recordset& r = data.recordset();
+        r.AddNew();
+        r.Fields(QStringLiteral("Path\\File")).setValue(dir + u'/' + file + QStringLiteral(".MP3"));
+        r.Fields(QStringLiteral("Path")).setValue(dir);
+        r.Fields(QStringLiteral("File")).setValue(file);
+        r.Fields(QStringLiteral("Artist")).setValue(artist);
+        r.Fields(QStringLiteral("Album")).setValue(album);
+        r.Fields(QStringLiteral("Genre")).setValue(genre);
+        r.Update();
+    }
+
+    SqliteDataControl data;
+};
+
+}  // namespace sonarium

@@ -1,0 +1,74 @@
+// The database's making and choosing: the schema of a new library, the overwrite question, a
+// file that is no library, and the panel toggle.
+#include "LibraryFixture.h"
+
+using namespace sonarium;
+
+namespace {
+
+using Database = LibraryFixture;
+
+TEST_F(Database, TheFirstStartMakesTheDefaultLibraryWithItsSeventeenColumns) {
+    ASSERT_TRUE(QFile::exists(path("SonariumData.mdb")));
+    EXPECT_EQ(M().DatabasePath, path("SonariumData.mdb"));
+    Recordset& r = data.recordset();
+    ASSERT_EQ(r.FieldCount(), 17);
+    const QStringList names = {"Path", "File", "Song Title", "Artist", "Album", "Comment", "Genre", "Duration", "Year",
+                               "Tempo", "Lyricist", "Composer", "Key", "Web Address", "E-Mail", "Info", "Path\\File"};
+    const int sizes[] = {80, 50, 30, 30, 30, 30, 30, 8, 4, 30, 30, 30, 20, 40, 30, 0, 100};
+    for (int i = 0; i < 17; ++i) {
+        EXPECT_EQ(r.Fields(i).Name(), names[i]);
+        EXPECT_EQ(r.Fields(i).Size(), sizes[i]) << names[i].toStdString();
+    }
+    EXPECT_EQ(form1().lblRecords.Caption(), "0");
+}
+
+TEST_F(Database, CreatingAndChoosingLibraries) {
+    Form1& f = form1();
+    addRecord("/m", "Old");
+    // A new library over an existing file is asked about; No keeps it.
+    write("Other.mdb", "not a database");
+    tc.dialogs.answerFile(path("Other.mdb")).answer(MsgResult::No);
+    f.mnuCreateDatabase.Click();
+    EXPECT_EQ(read("Other.mdb"), QByteArray("not a database"));
+    EXPECT_EQ(M().DatabasePath, path("SonariumData.mdb"));
+
+    // Choosing a file that is no library: the engine's text, and DatabasePath stays.
+    tc.dialogs.clear();
+    tc.dialogs.answerFile(path("Other.mdb")).answer(MsgResult::OK);
+    f.mnuDefaultDatabase.Click();
+    ASSERT_EQ(tc.dialogs.shown().size(), 2u);
+    EXPECT_EQ(tc.dialogs.shown()[1].title, "Database");
+    EXPECT_FALSE(tc.dialogs.shown()[1].text.isEmpty());
+    EXPECT_EQ(M().DatabasePath, path("SonariumData.mdb"));
+    EXPECT_EQ(read("Other.mdb"), QByteArray("not a database")) << "a user's file is never changed";
+
+    tc.dialogs.clear();
+    tc.dialogs.answerFile(path("New.mdb"));
+    f.mnuCreateDatabase.Click();
+    EXPECT_EQ(M().DatabasePath, path("New.mdb"));
+    EXPECT_EQ(data.recordset().FieldCount(), 17);
+    EXPECT_TRUE(read("Config.dat").contains(path("New.mdb").toUtf8()));
+
+    tc.dialogs.answerFile(path("SonariumData.mdb"));
+    f.mnuDefaultDatabase.Click();
+    data.recordset().MoveLast();
+    EXPECT_EQ(data.recordset().RecordCount(), 1);
+    EXPECT_EQ(M().DatabasePath, path("SonariumData.mdb"));
+}
+
+TEST_F(Database, ThePanelToggleClosesTheInfoPanels) {
+    Form1& f = form1();
+    int infoClicks = 0;
+    f.mnuInfo.onClick = [&] { ++infoClicks, f.mnuInfo.setChecked(false); };
+    f.mnuInfo.setChecked(true);
+    f.mnuDatabase.Click();
+    EXPECT_TRUE(f.PanelDatabase.Visible());
+    EXPECT_TRUE(f.mnuDatabase.Checked());
+    EXPECT_EQ(infoClicks, 1);
+    f.cmdDatabaseClose.Click();
+    EXPECT_FALSE(f.PanelDatabase.Visible());
+    EXPECT_FALSE(f.mnuDatabase.Checked());
+}
+
+}  // namespace

@@ -14,7 +14,4 @@ void Form1::UpdateRecordCount() {
     tryStep([&] { records.MoveFirst(); });
 }
 
-// The column buttons land with the grid.
-void Form1::imgButon_Click(int) {}
-
 }  // namespace sonarium

@@ -80,6 +80,22 @@ public:
     // ---- Library: grid, order, filter and search ----
     void wireGrid();
     void AlignButtons();
+    void Timer2_Timer();
+    void imgDown_Click(int index);
+    void mnuFilter_Click();
+    void mnuSearch_Click();
+    // Back to the whole library in its order; the column buttons are the caller's.
+    void FilterOff();
+    // The song in the player may not be edited while the queue has a selected row: says so.
+    bool EditLocked();
+    void DBGrid1_KeyPress(int& keyAscii);
+    void DBGrid1_AfterColUpdate(int colIndex);
+    void DBGrid1_ButtonClick(int colIndex);
+    void DBGrid1_RowColChange();
+    void ListGen_Click();
+    void cmdDeleteLine_Click();
+    void CmdDeleteFile_Click();
+    void cmdClearAll_Click();
     // ---- end of grid ----
     // ---- Library: scanner and manual add ----
     void wireScanner();

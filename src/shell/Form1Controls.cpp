@@ -5,7 +5,8 @@
 namespace sonarium {
 
 Form1Controls::Form1Controls(Components& c)
-    : Drive1(QStringLiteral("Drive1"), c.volumes),
+    : DBGrid1(QStringLiteral("DBGrid1"), c.data),
+      Drive1(QStringLiteral("Drive1"), c.volumes),
       Dir1(QStringLiteral("Dir1"), c.volumes),
       Fillist(QStringLiteral("Fillist")),
       Timer1(QStringLiteral("Timer1"), c.loop, 100),
@@ -35,7 +36,7 @@ std::vector<Control*> Form1Controls::allControls() const {
         &self->Label11, &self->lblTrackProgress, &self->lblBladeEncTime, &self->txtTrackTitle,
         &self->ShapeBack, &self->Shape1, &self->chkUseInOut, &self->cmdSetPunchInOut, &self->lblPunchInOut,
         &self->imgEncoder, &self->imgQuitEncoder,
-        &self->PanelDatabase, &self->Indent, &self->Button, &self->ButtonBlue, &self->imgDataBase,
+        &self->PanelDatabase, &self->DBGrid1, &self->Indent, &self->Button, &self->ButtonBlue, &self->imgDataBase,
         &self->cmdAddToQueue, &self->CmdDataAdd, &self->cmdSearch, &self->imgAutoUpdate, &self->cmdAutoSet,
         &self->cmdClearAll, &self->cmdDatabaseClose, &self->CmdDeleteFile, &self->cmdDeleteLine,
         &self->imgCancelSearch, &self->lblRecords, &self->lblFilter, &self->lblOrder, &self->ListGen,

@@ -2,6 +2,7 @@
 // The controls of the main window, as models. Their design-time places, sizes and captions
 // are set in Form1Design.cpp; views mirror them, the logic drives them.
 #include "controls/ControlArray.h"
+#include "controls/DataGrid.h"
 #include "controls/DirListBox.h"
 #include "controls/DriveListBox.h"
 #include "controls/FileListBox.h"
@@ -69,8 +70,9 @@ struct Form1Controls {
     Image cmdSetPunchInOut{"cmdSetPunchInOut"}, lblPunchInOut{"lblPunchInOut"}, imgEncoder{"imgEncoder"},
         imgQuitEncoder{"imgQuitEncoder"};
 
-    // Library
+    // Library: the grid is bound to the data control.
     Panel PanelDatabase{"PanelDatabase"};
+    DataGrid DBGrid1;
     ControlArray<Image> imgButon{"imgButon", 15}, imgDown{"imgDown", 15};
     Image Indent{"Indent"}, Button{"Button"}, ButtonBlue{"ButtonBlue"}, imgDataBase{"imgDataBase"},
         cmdAddToQueue{"cmdAddToQueue"}, CmdDataAdd{"CmdDataAdd"}, cmdSearch{"cmdSearch"},

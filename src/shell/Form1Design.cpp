@@ -1,6 +1,7 @@
 // The main window as designed: where each control stands, its size, captions and starting
 // state. Places are given in pixels here and stored in twips (15 to a pixel). The frames match
 // the pieces that a main skin cuts, so every cut lands on its control.
+#include "library/ColumnButtons.h"
 #include "shell/Form1.h"
 
 namespace sonarium {
@@ -14,6 +15,65 @@ void place(Control& c, Control* container, int x, int y, int w, int h) {
 }
 
 void hint(Control& c, const char* text) { c.setToolTipText(QString::fromUtf8(text)); }
+
+// The library panel: the column buttons over the grid's headings, the grid, the count, order
+// and filter, and the commands along the bottom.
+void layOutLibrary(Form1& f) {
+    const char* columns[] = {"Path",  "File",     "Song Title", "Artist", "Album", "Comment",     "Genre",  "Duration",
+                             "Year",  "Tempo",    "Lyricist",   "Composer", "Key", "Web Address", "E-Mail", "Info"};
+    // Wide enough for each heading's two buttons; the first five clear the last pair at the right.
+    const int widths[] = {150, 140, 130, 120, 120, 110, 90, 60, 45, 60, 90, 90, 45, 120, 110, 160};
+    place(f.DBGrid1, &f.PanelDatabase, 6, 24, 622, 196);
+    f.DBGrid1.setDescription(QStringLiteral("Library"));
+    for (int i = 0; i < 16; ++i) f.DBGrid1.addColumn(QString::fromLatin1(columns[i]), i, widths[i] * T);
+    f.DBGrid1.setColumnButton(6, true);
+
+    f.Indent.setPicture(indentPicture());
+    f.Button.setPicture(orderPicture());
+    f.ButtonBlue.setPicture(filterPicture());
+    const Picture arrow = dropArrowPicture();
+    for (int i = 0; i < f.imgButon.size(); ++i) {
+        // The last pair is never aligned: it keeps this place at the right.
+        const int x = i < 14 ? 6 + i * 40 : 596;
+        place(f.imgButon[i], &f.PanelDatabase, x, 4, 17, 17);
+        f.imgButon[i].setPicture(f.Indent.picture());
+        f.imgButon[i].setToolTipText(QStringLiteral("Order by %1").arg(QLatin1String(columns[i])));
+        place(f.imgDown[i], &f.PanelDatabase, x, 6, 11, 12);
+        f.imgDown[i].setLeft(f.imgButon[i].Left() + 320);
+        f.imgDown[i].setPicture(arrow);
+        f.imgDown[i].setToolTipText(QStringLiteral("%1 menu").arg(QLatin1String(columns[i])));
+    }
+    place(f.ListGen, &f.PanelDatabase, 0, 0, 120, 112);
+    f.ListGen.setDescription(QStringLiteral("Genres"));
+
+    place(f.lblRecords, &f.PanelDatabase, 6, 224, 64, 14);
+    f.lblRecords.setAlignment(Alignment::Right);
+    f.lblRecords.setDescription(QStringLiteral("Records"));
+    place(f.lblOrder, &f.PanelDatabase, 74, 224, 130, 14);
+    f.lblOrder.setDescription(QStringLiteral("Order"));
+    place(f.lblFilter, &f.PanelDatabase, 208, 224, 420, 14);
+    f.lblFilter.setCaption(QStringLiteral("Off"));
+    f.lblFilter.setDescription(QStringLiteral("Filter"));
+
+    struct Command {
+        Image& button;
+        int width;
+        const char* hint;
+    } commands[] = {{f.cmdAddToQueue, 74, " Add selected record to song queue "},
+                    {f.CmdDataAdd, 71, " Manual Add/Update "},
+                    {f.cmdSearch, 71, " Auto search & add new titles "},
+                    {f.cmdAutoSet, 71, " Create song set using criteria "},
+                    {f.cmdClearAll, 71, " Clear all database records "},
+                    {f.CmdDeleteFile, 71, " Delete file from disk "},
+                    {f.cmdDeleteLine, 78, " Delete selected record "},
+                    {f.cmdDatabaseClose, 71, " Close database window "}};
+    int x = 6;
+    for (const Command& c : commands) {
+        place(c.button, &f.PanelDatabase, x, 242, c.width, 17);
+        hint(c.button, c.hint);
+        x += c.width + 4;
+    }
+}
 }  // namespace
 
 void Form1::design() {
@@ -184,6 +244,7 @@ void Form1::design() {
     place(PanelDatabase, nullptr, 0, 202, 634, 263);
     PanelDatabase.setVisible(false);
     place(PicDatabase, &PanelDatabase, 0, 0, 634, 263);
+    layOutLibrary(*this);
     place(InfoPanel, nullptr, 0, 202, 634, 263);
     InfoPanel.setVisible(false);
     place(PanelAlarm, nullptr, 200, 60, 240, 200);

@@ -15,6 +15,9 @@ public:
     Label lblTitle{"lblTitle"}, lblVersion{"lblVersion"}, lblTagline{"lblTagline"};
     CommandButton SScmdOK{"SScmdOK"};
 
+    // The Auto-Queue criteria, one line of SQL each.
+    ListBox List1{"List1"};
+
     // Dialog buttons shared by the other faces.
     CommandButton cmdOK{"cmdOK"}, cmdCancel{"cmdCancel"};
 

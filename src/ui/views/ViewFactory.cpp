@@ -1,11 +1,13 @@
 #include "ui/views/ViewFactory.h"
 
+#include "controls/DataGrid.h"
 #include "controls/DirListBox.h"
 #include "controls/DriveListBox.h"
 #include "controls/FileListBox.h"
 #include "controls/Widgets.h"
 #include "ui/views/CheckBoxView.h"
 #include "ui/views/ComboBoxView.h"
+#include "ui/views/DataGridView.h"
 #include "ui/views/CommandButtonView.h"
 #include "ui/views/DirListView.h"
 #include "ui/views/DriveListView.h"
@@ -32,6 +34,7 @@ QWidget* made(Model& model, QWidget* parent) {
 // Most derived kinds first: a command button is a panel, a combo box a list box, a picture
 // box an image.
 QWidget* viewFor(Control& c, QWidget* parent) {
+    if (auto* m = dynamic_cast<DataGrid*>(&c)) return made<DataGridView>(*m, parent);
     if (auto* m = dynamic_cast<CommandButton*>(&c)) return made<CommandButtonView>(*m, parent);
     if (auto* m = dynamic_cast<Panel*>(&c)) return made<PanelView>(*m, parent);
     if (auto* m = dynamic_cast<Image*>(&c)) {

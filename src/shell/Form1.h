@@ -99,6 +99,23 @@ public:
     // ---- end of grid ----
     // ---- Library: scanner and manual add ----
     void wireScanner();
+    void cmdSearch_Click();   // also the scan's cancel button
+    void DoSearch();
+    // One directory of the walk, its sub-directories first; true when the walk is to stop.
+    bool ScanDirectory(QString& newPath, std::int32_t& dirCount, QString& backUp);
+    void CmdDataAdd_Click();
+    // FrmGeneral's add and scan faces: its lists start from this window's and give their
+    // choice back to them; cmdAdd adds or updates one file.
+    void FrmGeneral_Activate();
+    void FrmGeneral_cmdOK_Click();
+    void FrmGeneral_cmdCancel_Click();
+    void FrmGeneral_CmdClose_Click();
+    void FrmGeneral_cmdAdd_Click();
+    void FrmGeneral_Drive1_Change();
+    void FrmGeneral_Dir1_Change();
+    std::int32_t NewTitles = 0;  // records added by the present scan
+    std::shared_ptr<class KnownPathList> KnownPaths;  // library/KnownPaths.h
+    QStringList ScanTrail;  // real paths of the directories the walk is in, below its first level
     // ---- end of scanner ----
     // ---- Library: tags ----
     void UpdateTag();

@@ -1,9 +1,41 @@
 #include "shell/FrmGeneral.h"
 
+#include <QDir>
+
+#include "controls/Errors.h"
+
 namespace sonarium {
 
-FrmGeneral::FrmGeneral() : Form(QStringLiteral("FrmGeneral")) {
+std::vector<Volume> FrmGeneral::SharedVolumes::list() {
+    return target ? target->list() : std::vector<Volume>{{QStringLiteral("/"), QString()}};
+}
+
+bool FrmGeneral::SharedVolumes::ready(const QString& root) { return target ? target->ready(root) : true; }
+
+FrmGeneral::FrmGeneral()
+    : Form(QStringLiteral("FrmGeneral")),
+      Drive1(QStringLiteral("Drive1"), volumes_),
+      Dir1(QStringLiteral("Dir1"), volumes_) {
     setCaption(QStringLiteral("Sonarium"));
+    design();
+    // The About box closes with its OK button.
+    SScmdOK.onClick = [this] { Hide(); };
+}
+
+void FrmGeneral::attachVolumes(Volumes& volumes) {
+    volumes_.target = &volumes;
+    Drive1.Refresh();
+    // The current directory may lie on a mount of its own, which is then the drive in use.
+    tryStep([&] { Drive1.setDrive(QDir::cleanPath(QDir::currentPath())); });
+    // The stand-in put the current directory on the root; it belongs to its own drive.
+    Dir1.setDriveDirectory(QStringLiteral("/"));
+    Dir1.setDriveDirectory(Dir1.Path());
+}
+
+// Sizes in twips, 15 to a pixel: a dialog of 400 by 240 pixels. The headings share the top
+// line, the file list and the criteria list the left, the drive and directory lists the right;
+// the add face's buttons sit under the files, OK and Cancel under the directories.
+void FrmGeneral::design() {
     Move(0, 0, 6000, 3600);
     PanelSplash.Move(0, 0, 6000, 3600);
     PanelSplash.setVisible(false);
@@ -20,12 +52,58 @@ FrmGeneral::FrmGeneral() : Form(QStringLiteral("FrmGeneral")) {
     lblTagline.Move(0, 2100, 6000, 360);
     SScmdOK.setCaption(QStringLiteral("OK"));
     SScmdOK.Move(2400, 2850, 1200, 450);
+
+    Label1.setCaption(QStringLiteral("Select a title ..............."));
+    Label1.Move(120, 90, 5760, 300);
+    lblStartFrom.setCaption(QStringLiteral("Select a drive and directory to start searching from."));
+    lblStartFrom.Move(120, 90, 5760, 300);
+    lblAutoSet.setCaption(QStringLiteral("Double click to remove a selected criteria"));
+    lblAutoSet.Move(120, 90, 5760, 300);
+
+    File1.Move(120, 450, 2760, 2520);
+    File1.setPattern(QStringLiteral("*.MP3"));
+    File1.setDescription(QStringLiteral("Songs"));
+    List1.Move(120, 450, 5760, 2220);
+    List1.setDescription(QStringLiteral("Criteria"));
+    Drive1.Move(3000, 450, 2880, 330);
+    Drive1.setDescription(QStringLiteral("Drive"));
+    Dir1.Move(3000, 840, 2880, 1830);
+    Dir1.setDescription(QStringLiteral("Folders"));
+    chkSubs.Move(3000, 2760, 240, 240);
+    chkSubs.setDescription(QStringLiteral("Include Sub-Directories"));
+    lblSubs.setCaption(QStringLiteral("Include Sub-Directories"));
+    lblSubs.Move(3300, 2760, 2580, 240);
+
+    cmdAdd.setCaption(QStringLiteral("Add/Update"));
+    cmdAdd.Move(120, 3105, 1320, 375);
+    CmdClose.setCaption(QStringLiteral("Close"));
+    CmdClose.Move(1560, 3105, 1320, 375);
     cmdOK.setCaption(QStringLiteral("OK"));
-    cmdOK.setVisible(false);
+    cmdOK.Move(3240, 3105, 1260, 375);
     cmdCancel.setCaption(QStringLiteral("Cancel"));
-    cmdCancel.setVisible(false);
-    // The About box closes with its OK button.
-    SScmdOK.onClick = [this] { Hide(); };
+    cmdCancel.Move(4620, 3105, 1260, 375);
+
+    setFace(Face::ManualAdd);
+}
+
+void FrmGeneral::setFace(Face face) {
+    auto show = [](std::initializer_list<Control*> controls, bool visible) {
+        for (Control* c : controls) c->setVisible(visible);
+    };
+    switch (face) {
+    case Face::ManualAdd:
+        show({&Drive1, &Dir1, &File1, &Label1, &cmdAdd, &CmdClose}, true);
+        show({&lblStartFrom, &cmdOK, &cmdCancel, &List1, &lblAutoSet}, false);
+        break;
+    case Face::Scan:
+        show({&Drive1, &Dir1, &lblStartFrom, &cmdOK, &cmdCancel}, true);
+        show({&cmdAdd, &CmdClose, &File1, &Label1}, false);
+        break;
+    case Face::Criteria:
+        show({&List1, &lblAutoSet, &cmdOK}, true);
+        show({&cmdAdd, &CmdClose, &Dir1, &Drive1, &File1, &Label1, &lblStartFrom, &cmdCancel}, false);
+        break;
+    }
 }
 
 }  // namespace sonarium

@@ -1,27 +1,70 @@
 #pragma once
 // The dialog of many faces: splash and About box, manual add, scan, criteria list and the
-// directory pick for skins. Each face is a set of its controls made visible.
+// directory pick for skins. Each face is a set of its controls made visible; the design state
+// is the manual add face, and a face that changes it puts it back when the dialog closes.
+#include "controls/DirListBox.h"
+#include "controls/DriveListBox.h"
+#include "controls/FileListBox.h"
 #include "controls/Form.h"
+#include "controls/Volumes.h"
 #include "controls/Widgets.h"
 
 namespace sonarium {
 
 class FrmGeneral : public Form {
+    // The dialog is built before the components are handed round, so its lists start on this
+    // stand-in: the root volume alone until attachVolumes gives it the machine's volumes.
+    // Declared first, as the lists below are built on it.
+    class SharedVolumes : public Volumes {
+    public:
+        Volumes* target = nullptr;
+        std::vector<Volume> list() override;
+        bool ready(const QString& root) override;
+    };
+    SharedVolumes volumes_;
+
 public:
     FrmGeneral();
+
+    // From now on the drive and directory lists see these volumes (the main window's), and
+    // start on the drive and directory of the process's current directory.
+    void attachVolumes(Volumes& volumes);
+
+    // The faces that use the lists. Each shows its controls and hides those it has no use
+    // for; a control it doesn't name keeps its state (the check box for sub-directories is
+    // only ever hidden by the directory pick for skins).
+    enum class Face { ManualAdd, Scan, Criteria };
+    void setFace(Face face);
 
     // Splash / About
     Panel PanelSplash{"PanelSplash"};
     Label lblTitle{"lblTitle"}, lblVersion{"lblVersion"}, lblTagline{"lblTagline"};
     CommandButton SScmdOK{"SScmdOK"};
 
-    // The Auto-Queue criteria, one line of SQL each.
-    ListBox List1{"List1"};
+    // Manual add and scan: a start directory, or a file of it.
+    DriveListBox Drive1;
+    DirListBox Dir1;
+    FileListBox File1{"File1"};
+    CheckBox chkSubs{"chkSubs"};
+    Label lblSubs{"lblSubs"}, lblStartFrom{"lblStartFrom"}, Label1{"Label1"};
+    CommandButton cmdAdd{"cmdAdd"}, CmdClose{"CmdClose"};
 
-    // Dialog buttons shared by the other faces.
+    // Criteria list
+    ListBox List1{"List1"};
+    Label lblAutoSet{"lblAutoSet"};
+
+    // Dialog buttons shared by the faces.
     CommandButton cmdOK{"cmdOK"}, cmdCancel{"cmdCancel"};
 
-    std::vector<Control*> allControls() { return {&PanelSplash, &lblTitle, &lblVersion, &lblTagline, &SScmdOK, &cmdOK, &cmdCancel}; }
+    // The splash panel comes after the dialog's controls, so that its view lies over them.
+    std::vector<Control*> allControls() {
+        return {&Label1, &lblStartFrom, &lblAutoSet, &File1, &List1, &Drive1, &Dir1, &chkSubs, &lblSubs,
+                &cmdAdd, &CmdClose, &cmdOK, &cmdCancel, &PanelSplash, &lblTitle, &lblVersion, &lblTagline,
+                &SScmdOK};
+    }
+
+private:
+    void design();
 };
 
 }  // namespace sonarium

@@ -18,6 +18,9 @@ struct Module1 {
     QString SkinPath;
     QString MiniSkinPath;
     QString SelectedDir;
+    // What the dialog of the scan and the directory picks was left with.
+    bool IncludeSubDirs = false;
+    bool DialogAccepted = false;  // set by the dialog's OK
     std::int16_t VUMeterOn = 0;
     std::int16_t EncoderChoice = 0;
     QString AlarmTime = QStringLiteral("00:00");

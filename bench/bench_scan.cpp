@@ -1,0 +1,171 @@
+// The library scanner on a large tree, measured against a bare loop that reads the same
+// files' tags and lengths through the same player, in the same run, so the result does not
+// depend on the machine. The outside tool `id3v2 -l` reading the same tags is shown for scale.
+//
+// One short MP3 is made with LAME and copied into 100 directories, each copy with its own tag
+// in its last 128 bytes. Then, in turn:
+//   bare   for each file: Open, the six tag reads and Length, Close (the files listed first)
+//   scan   the scan command from the top of the tree with sub-directories, into a new library:
+//          the walk, the known-name search, one record added and committed per file
+//   tool   `id3v2 -l` over the same files, 500 names a run
+// The bare loop runs before and after the scan and its best time counts, so the page cache
+// favours neither. Ratio = scan / bare; the goal is under 2.
+//
+// Usage: bench_scan [files]   (10,000 by default)
+#include <QCoreApplication>
+#include <QDir>
+#include <QDirIterator>
+#include <QTemporaryDir>
+#include <chrono>
+#include <cstdio>
+#include <functional>
+#include <memory>
+
+#include "TestComponents.h"
+#include "engine/audio/NullSink.h"
+#include "engine/audio/SoundProcessor.h"
+#include "engine/data/SqliteDataControl.h"
+#include "engine/player/Mp3Play.h"
+#include "fixtures/Mp3Fixtures.h"
+#include "fixtures/ThreadedTestLoop.h"
+#include "fixtures/ToolRunner.h"
+#include "shell/Program.h"
+
+using namespace sonarium;
+using namespace sonarium::fixtures;
+
+namespace {
+
+using Clock = std::chrono::steady_clock;
+
+double timeMs(const std::function<void()>& work) {
+    const auto t0 = Clock::now();
+    work();
+    return std::chrono::duration<double, std::milli>(Clock::now() - t0).count();
+}
+
+QStringList makeTree(const QString& root, int files) {
+    Mp3Recipe recipe;
+    recipe.rate = 22050;
+    recipe.channels = 1;
+    recipe.kbps = 32;
+    recipe.seconds = 1.0;
+    recipe.id3v1 = true;
+    const QString base = root + QStringLiteral("/base.bin");
+    if (!makeMp3(base, recipe)) return {};
+    QFile in(base);
+    in.open(QIODevice::ReadOnly);
+    const QByteArray audio = in.readAll().chopped(128);
+    in.close();
+    QFile::remove(base);
+    QStringList made;
+    for (int i = 0; i < files; ++i) {
+        const QString sub = QStringLiteral("%1/Artist %2").arg(root).arg(i % 100, 2, 10, QLatin1Char('0'));
+        QDir().mkpath(sub);
+        const QString file = QStringLiteral("%1/Song %2.MP3").arg(sub).arg(i, 5, 10, QLatin1Char('0'));
+        QFile out(file);
+        out.open(QIODevice::WriteOnly);
+        out.write(audio + id3v1Block("Title " + QByteArray::number(i), "Artist " + QByteArray::number(i % 100),
+                                     "Album " + QByteArray::number(i % 700), "1999",
+                                     "Comment " + QByteArray::number(i), static_cast<unsigned char>(i % 80)));
+        made << file;
+    }
+    return made;
+}
+
+// What the scan reads of each file, without the walk and the library.
+double bareLoop(EventLoop& loop, const QStringList& files) {
+    ToneSettings tone;
+    PeakLevel level;
+    Mp3Play mp3(loop, [] { return std::make_unique<NullSink>(); }, tone, level);
+    qint64 sink = 0;
+    const double ms = timeMs([&] {
+        for (const QString& f : files) {
+            mp3.Open(f, QString());
+            sink += mp3.TagTitle().size() + mp3.TagArtist().size() + mp3.TagYear() + mp3.TagAlbum().size() +
+                    mp3.TagComment().size() + mp3.GenreName(mp3.TagGenre()).size();
+            sink += qint64(mp3.Length());
+            mp3.Close();
+        }
+    });
+    if (sink == 42) std::puts("");
+    return ms;
+}
+
+// The scan command over the drive `root`, into a new library in `home`; `message` gets the
+// count message.
+double scan(const QString& root, const QString& home, QString& message) {
+    const QString before = QDir::currentPath();
+    QDir::setCurrent(home);
+    ThreadedTestLoop loop{std::chrono::minutes(30)};
+    ScriptedDialogs dialogs;
+    dialogs.setAutoAnswerOk(true);
+    FakeDesktop desktop;
+    FakePictureLoader pictures;
+    // The tree is a drive of its own, as a music disk would be: the walk starts at its top,
+    // which is the drive's current directory.
+    FakeVolumes volumes;
+    volumes.add(QStringLiteral("/"));
+    volumes.add(root, QStringLiteral("Music"));
+    ToneSettings tone;
+    PeakLevel level;
+    Mp3Play mp3(loop, [] { return std::make_unique<NullSink>(); }, tone, level);
+    FakePlayer mp32{loop};
+    FakeEncoder encoder{loop};
+    FakeCdReader cd{loop};
+    FakeMixer mixer;
+    FakePeakMeter peak;
+    SqliteDataControl data;
+    FakeProcesses processes{loop};
+    Components c{loop, dialogs, desktop, pictures, volumes, mp3, mp32, encoder, cd, mixer, peak, data, processes,
+                 QString(), home};
+    Program program(c);
+    program.Main();
+    program.form1.Form_Activate();
+    FrmGeneral& g = program.frmGeneral;
+    loop.post([&] {
+        g.Activate();
+        g.Drive1.setDrive(root);
+        g.chkSubs.setValue(1);
+        g.cmdOK.Click();
+    });
+    const double ms = timeMs([&] { program.form1.cmdSearch.Click(); });
+    message = dialogs.texts().value(0);
+    QDir::setCurrent(before);
+    return ms;
+}
+
+double tool(const QStringList& files) {
+    return timeMs([&] {
+        for (int i = 0; i < files.size(); i += 500) runTool(QStringList{"id3v2", "-l"} + files.mid(i, 500), 300);
+    });
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    QCoreApplication app(argc, argv);
+    const int count = argc > 1 ? std::atoi(argv[1]) : 10000;
+    QTemporaryDir home;
+    const QString root = home.filePath(QStringLiteral("Music"));
+    QDir().mkpath(root);
+    std::printf("making %d files...\n", count);
+    const QStringList files = makeTree(root, count);
+    if (files.size() != count) {
+        std::fprintf(stderr, "could not make the files\n");
+        return 1;
+    }
+    ThreadedTestLoop loop;
+    const double bare1 = bareLoop(loop, files);
+    QString message;
+    const double scanned = scan(root, home.path(), message);
+    const double bare2 = bareLoop(loop, files);
+    const double id3v2 = tool(files);
+    const double bare = std::min(bare1, bare2);
+    std::printf("files            %d (%s)\n", count, qPrintable(message));
+    std::printf("bare tag loop    %8.1f ms  (%.3f ms a file; runs %.1f, %.1f)\n", bare, bare / count, bare1, bare2);
+    std::printf("scan             %8.1f ms  (%.3f ms a file)\n", scanned, scanned / count);
+    std::printf("id3v2 -l         %8.1f ms  (outside tool, tags only)\n", id3v2);
+    std::printf("ratio scan/bare  %8.2f  (goal < 2)\n", scanned / bare);
+    return 0;
+}

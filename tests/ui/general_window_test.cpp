@@ -1,0 +1,79 @@
+// The dialog's scan and add faces in the real window: which controls show, the window is an
+// ordinary dialog, a user's pick in its lists reaches the models, and its buttons close it.
+#include <QLabel>
+#include <QListWidget>
+
+#include "WindowsFixture.h"
+#include "shell/FrmGeneral.h"
+
+using namespace sonarium;
+
+namespace {
+
+class GeneralWindowTest : public WindowsFixture {
+protected:
+    void SetUp() override {
+        WindowsFixture::SetUp();
+        QDir().mkpath(path("Albums"));
+        write("Song.MP3", {});
+        tc.mp3.addFile(path("Song.MP3"), 100, 65);
+        tc.dialogs.setAutoAnswerOk(true);
+        program().Main();
+        settle();
+    }
+    // Runs `fn` inside the dialog's modal wait, once the window is up.
+    void whileShown(std::function<void(GeneralWindow&)> fn) {
+        tc.loop.startTimer(
+            50,
+            [this, fn] {
+                settle();
+                program().frmGeneral.Activate();  // the window manager's focus, which offscreen lacks
+                settle();
+                fn(views->general());
+            },
+            true);
+    }
+    bool shown(GeneralWindow& w, const char* name) {
+        QWidget* v = find(w, name);
+        return v && v->isVisible();
+    }
+};
+
+TEST_F(GeneralWindowTest, TheScanAndAddFacesShowTheirControlsAndAnswer) {
+    whileShown([&](GeneralWindow& w) {
+        EXPECT_TRUE(w.isModal());
+        EXPECT_FALSE(w.windowFlags() & Qt::FramelessWindowHint);
+        for (const char* name : {"Drive1", "Dir1", "lblStartFrom", "cmdOK", "cmdCancel", "chkSubs", "lblSubs"})
+            EXPECT_TRUE(shown(w, name)) << name;
+        for (const char* name : {"File1", "Label1", "cmdAdd", "CmdClose", "PanelSplash", "List1"})
+            EXPECT_FALSE(shown(w, name)) << name;
+        EXPECT_EQ(find<QLabel>(w, "lblStartFrom")->text(), "Select a drive and directory to start searching from.");
+        EXPECT_EQ(find(w, "chkSubs")->accessibleName(), "Include Sub-Directories");
+        saveScreenshot(w, "scan-dialog.png");
+        find<QAbstractButton>(w, "cmdOK")->click();
+    });
+    form1().cmdSearch.Click();
+    settle();
+    EXPECT_FALSE(views->general().isVisible());
+    EXPECT_EQ(tc.dialogs.texts(), QStringList({"1 new titles found"}));
+
+    whileShown([&](GeneralWindow& w) {
+        for (const char* name : {"Drive1", "Dir1", "File1", "Label1", "cmdAdd", "CmdClose"})
+            EXPECT_TRUE(shown(w, name)) << name;
+        for (const char* name : {"lblStartFrom", "cmdOK", "cmdCancel"}) EXPECT_FALSE(shown(w, name)) << name;
+        auto* files = find<QListWidget>(w, "File1");
+        ASSERT_NE(files, nullptr);
+        ASSERT_EQ(files->count(), 1);
+        click(*files->viewport(), files->visualItemRect(files->item(0)).center());
+        EXPECT_EQ(program().frmGeneral.File1.FileName(), "Song.MP3");
+        saveScreenshot(w, "add-dialog.png");
+        find<QAbstractButton>(w, "cmdAdd")->click();
+        find<QAbstractButton>(w, "CmdClose")->click();
+    });
+    form1().CmdDataAdd.Click();
+    settle();
+    EXPECT_FALSE(views->general().isVisible());
+    EXPECT_EQ(tc.dialogs.texts().last(), "File Added");
+}
+
+}  // namespace

@@ -1,0 +1,369 @@
+// The library scanner and the manual add, on the real library in a temporary directory: the
+// walk's order, what a new file's record holds, the count and its message, a filter in force,
+// a cancel, the 16-bit limit of the record loops, the dialog's faces and the manual update.
+#include <sqlite3.h>
+
+#include <random>
+
+#include "LibraryFixture.h"
+#include "library/KnownPaths.h"
+#include "shell/FrmGeneral.h"
+
+using namespace sonarium;
+
+namespace {
+
+class Scanner : public LibraryFixture {
+protected:
+    void SetUp() override {
+        LibraryFixture::SetUp();
+        tc.dialogs.setAutoAnswerOk(true);
+    }
+
+    FrmGeneral& general() { return program().frmGeneral; }
+
+    // An empty file in the test's directory (the drive's current directory), with the tag and
+    // length the fake player gives it.
+    QString song(const QString& rel, float seconds = 60, const Id3Fields& tag = {}) {
+        const QString file = path(rel);
+        EXPECT_TRUE(QDir().mkpath(QFileInfo(file).path()));
+        write(rel, QByteArray());
+        tc.mp3.addFile(file, 100, seconds, 128, 44100, 0, tag);
+        return file;
+    }
+
+    // Runs `fn` at the n-th delivery of events from now on, 1 being the next.
+    void atDelivery(int n, std::function<void()> fn) {
+        if (n <= 1) return tc.loop.post(std::move(fn));
+        tc.loop.post([this, n, fn] { atDelivery(n - 1, fn); });
+    }
+
+    // The scan as the user runs it: the dialog comes up on the main window's directory, the
+    // user picks a start and OK; a cancel click can come at the walk's n-th delivery of events.
+    void scan(const QString& start, bool subs, int cancelAt = 0) {
+        tc.loop.post([=, this] {
+            general().Activate();
+            general().Dir1.setPath(start);
+            general().chkSubs.setValue(subs ? 1 : 0);
+            if (cancelAt > 0) atDelivery(cancelAt, [this] { form1().cmdSearch.Click(); });
+            general().cmdOK.Click();
+        });
+        tc.mp3.clearCalls();
+        tc.dialogs.clear();
+        form1().cmdSearch.Click();
+    }
+
+    // The files the player opened, relative to the test's directory.
+    QStringList opened() const {
+        QStringList out;
+        for (const QString& c : tc.mp3.calls())
+            if (c.startsWith(u"Open(")) out << c.mid(5).chopped(2).remove(0, dir.path().size() + 1);
+        return out;
+    }
+
+    // One column of every record of the library file, in the order they were added.
+    QStringList column(const QString& name) {
+        sqlite3* db = nullptr;
+        EXPECT_EQ(sqlite3_open(path("SonariumData.mdb").toUtf8().constData(), &db), SQLITE_OK);
+        sqlite3_stmt* st = nullptr;
+        const QByteArray sql = "SELECT \"" + name.toUtf8() + "\" FROM SongData ORDER BY rowid";
+        EXPECT_EQ(sqlite3_prepare_v2(db, sql.constData(), -1, &st, nullptr), SQLITE_OK) << sql.constData();
+        QStringList out;
+        while (st && sqlite3_step(st) == SQLITE_ROW)
+            out << QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(st, 0)));
+        sqlite3_finalize(st);
+        sqlite3_close(db);
+        return out;
+    }
+    QStringList files() { return column(QStringLiteral("File")); }
+};
+
+TEST_F(Scanner, WalksSubdirectoriesLastToFirstDepthFirstWithFilesLastAndCounts) {
+    song("top.MP3", 186.5f, {"Top", "Band", "Album", "Note", 1999, 17});
+    song("A/a1.MP3", 187.5f);
+    song("A/A1/deep.mp3", 7500.4f);
+    song("A/A2/x.MP3");
+    song("B/b1.MP3");
+    scan(dir.path(), true);
+    EXPECT_EQ(opened(), QStringList({"B/b1.MP3", "A/A2/x.MP3", "A/A1/deep.mp3", "A/a1.MP3", "top.MP3"}));
+    ASSERT_EQ(tc.dialogs.shown().size(), 1u);
+    EXPECT_EQ(tc.dialogs.shown()[0].text, "5 new titles found");
+    EXPECT_EQ(tc.dialogs.shown()[0].title, "Auto Update");
+    EXPECT_EQ(tc.dialogs.shown()[0].icon, MsgIcon::Information);
+    EXPECT_EQ(form1().lblRecords.Caption(), "5");
+    EXPECT_FALSE(form1().SearchRunning);
+    EXPECT_EQ(form1().Dir1.Path(), dir.path());
+
+    // Every column a file fills; a lower-case extension goes from the name all the same, and
+    // lengths round to the even second on a tie.
+    EXPECT_EQ(files(), QStringList({"b1", "x", "deep", "a1", "top"}));
+    EXPECT_EQ(column("Path\\File").last(), path("top.MP3"));
+    EXPECT_EQ(column("Path")[2], path("A/A1"));
+    EXPECT_EQ(column("Duration"), QStringList({"01:00", "01:00", "125:00", "03:08", "03:06"}));
+    EXPECT_EQ(column("Year"), QStringList({"0", "0", "0", "0", "1999"}));
+    EXPECT_EQ(column("Song Title").last(), "Top");
+    EXPECT_EQ(column("Artist").last(), "Band");
+    EXPECT_EQ(column("Album").last(), "Album");
+    EXPECT_EQ(column("Comment").last(), "Note");
+    EXPECT_EQ(column("Genre").last(), "Genre 17") << "the player's own name for the number";
+    EXPECT_EQ(column("Tempo").last(), "");
+
+    // Again: all known, whatever the case of the name.
+    song("B/B1.MP3");  // a second spelling of a known file is the same song
+    QFile::remove(path("B/b1.MP3"));
+    scan(dir.path(), true);
+    EXPECT_EQ(tc.dialogs.texts(), QStringList({"0 new titles found"}));
+
+    // From a directory other than the drive's current one, the first level walks the current
+    // directory's sub-directories, as many as the chosen one has, and then the chosen one's files.
+    scan(path("A"), true);
+    EXPECT_EQ(opened(), QStringList({"B/B1.MP3", "A/A2/x.MP3", "A/A1/deep.mp3", "A/a1.MP3", "A/a1.MP3"}));
+    // Without sub-directories only the chosen directory's files.
+    scan(path("A"), false);
+    EXPECT_EQ(opened(), QStringList({"A/a1.MP3"}));
+    EXPECT_EQ(files().size(), 5);
+}
+
+TEST_F(Scanner, NamesTooLongForTheirColumnsAndFilesThePlayerCannotOpen) {
+    const QString longName = QString(52, u'n') + ".MP3";          // File over 50
+    const QString tooLong = QString(100 - dir.path().size(), u'k') + ".MP3";  // key over 100
+    song(longName);
+    song(tooLong);
+    write("broken.MP3", "not audio");  // the player refuses it: a record all the same
+    scan(dir.path(), false);
+    EXPECT_EQ(tc.dialogs.texts(), QStringList({"3 new titles found"})) << "the refused key is counted too";
+    const QStringList keys = column("Path\\File");
+    ASSERT_EQ(keys.size(), 2);
+    EXPECT_TRUE(keys.contains(path(longName)));
+    EXPECT_TRUE(keys.contains(path("broken.MP3")));
+    const int broken = keys.indexOf(path("broken.MP3"));
+    EXPECT_EQ(files()[1 - broken], "") << "a name too long leaves File empty";
+    EXPECT_EQ(files()[broken], "broken");
+    EXPECT_EQ(column("Duration")[broken], "00:00");
+    EXPECT_EQ(column("Year")[broken], "0");
+}
+
+// A link back up the tree is followed once, and the walk ends.
+TEST_F(Scanner, ALinkBackUpTheTreeIsNotWalkedAgain) {
+    song("A/a.MP3");
+    song("r.MP3");
+    ASSERT_TRUE(QFile::link(dir.path(), path("A/up")));
+    scan(dir.path(), true);
+    EXPECT_EQ(opened(), QStringList({"A/up/r.MP3", "A/a.MP3", "r.MP3"}));
+    EXPECT_EQ(tc.dialogs.texts(), QStringList({"3 new titles found"}));
+    EXPECT_EQ(form1().Dir1.Path(), dir.path());
+}
+
+// Only the records in view are known. A file outside the filter is new, is refused as a
+// duplicate, and is counted; its name then takes the place of the last known one, so that the
+// file behind that name is new to the scan as well.
+TEST_F(Scanner, AFilterInForceCountsDuplicatesThatAreNotStored) {
+    song("d1/k.MP3");
+    song("d2/o.MP3");
+    song("new.MP3");
+    addRecord(path("d1"), "k", "Keep");
+    addRecord(path("d2"), "o", "Other");
+    data.setRecordSource(QStringLiteral("Select * From SongData Where [Artist] Like \"Keep*\""));
+    data.Refresh();
+    form1().UpdateRecordCount();
+    form1().SqlOrder = QStringLiteral("Order By [File]");
+    scan(dir.path(), true);
+    EXPECT_EQ(opened(), QStringList({"d2/o.MP3", "d1/k.MP3", "new.MP3"}));
+    EXPECT_EQ(tc.dialogs.texts(), QStringList({"3 new titles found"}));
+    EXPECT_EQ(files(), QStringList({"k", "o", "new"}));
+    // The grid comes back in its order, without its filter.
+    EXPECT_EQ(data.RecordSource(), "Select * From SongData Order By [File]");
+    EXPECT_EQ(form1().lblRecords.Caption(), "3");
+}
+
+TEST_F(Scanner, CancelStopsTheWalkAndKeepsWhatWasAdded) {
+    song("A/a.MP3");
+    song("B/B1/b1.MP3");
+    song("B/b.MP3");
+    song("C/c.MP3");
+    song("r.MP3");
+    // Deliveries: the start, C, B, B1. Cancelled on entering B1: B returns at once, and the
+    // start leaves its loop and reads the files of where the list was left, B1.
+    scan(dir.path(), true, 4);
+    EXPECT_EQ(opened(), QStringList({"C/c.MP3", "B/B1/b1.MP3"}));
+    EXPECT_EQ(tc.dialogs.texts(), QStringList({"2 new titles found"}));
+    EXPECT_EQ(files(), QStringList({"c", "b1"}));
+    EXPECT_FALSE(form1().SearchRunning);
+
+    // Cancelled on entering the first directory: nothing more.
+    scan(dir.path(), true, 2);
+    EXPECT_TRUE(opened().isEmpty());
+    EXPECT_EQ(tc.dialogs.texts(), QStringList({"0 new titles found"}));
+}
+
+// Record loops count in 16 bits: past 32767 records nothing is found, every file is new, and
+// the library refuses the duplicates.
+TEST_F(Scanner, ALibraryPastTheRecordLoopsRangeKnowsNothing) {
+    const QString known = song("known.MP3");
+    auto fill = [&](int from, int to) {
+        sqlite3* db = nullptr;
+        ASSERT_EQ(sqlite3_open(path("SonariumData.mdb").toUtf8().constData(), &db), SQLITE_OK);
+        sqlite3_exec(db, "PRAGMA journal_mode=OFF; PRAGMA synchronous=OFF; PRAGMA cache_size=-64000; BEGIN", nullptr, nullptr, nullptr);
+        sqlite3_stmt* st = nullptr;
+        sqlite3_prepare_v2(db, "INSERT INTO SongData ([Path\\File]) VALUES (?1)", -1, &st, nullptr);
+        for (int i = from; i < to; ++i) {
+            const QByteArray key = i == 0 ? known.toUtf8() : QByteArray("/x/") + QByteArray::number(i) + ".MP3";
+            sqlite3_bind_text(st, 1, key.constData(), int(key.size()), SQLITE_TRANSIENT);
+            sqlite3_step(st);
+            sqlite3_reset(st);
+        }
+        sqlite3_finalize(st);
+        sqlite3_exec(db, "COMMIT", nullptr, nullptr, nullptr);
+        sqlite3_close(db);
+        data.Refresh();
+        form1().UpdateRecordCount();
+    };
+    fill(0, 32767);
+    scan(dir.path(), false);
+    EXPECT_EQ(tc.dialogs.texts(), QStringList({"0 new titles found"}));
+    fill(32767, 32768);
+    scan(dir.path(), false);
+    EXPECT_EQ(tc.dialogs.texts(), QStringList({"1 new titles found"}));
+    EXPECT_EQ(form1().lblRecords.Caption(), "32768");
+
+    tc.loop.post([this] {
+        general().Activate();
+        general().File1.setListIndex(general().File1.rows().indexOf("known.MP3"));
+        general().cmdAdd.Click();
+        general().CmdClose.Click();
+    });
+    tc.dialogs.clear();
+    form1().CmdDataAdd.Click();
+    EXPECT_EQ(tc.dialogs.texts(), QStringList({"File Added"})) << "not found, and refused as a duplicate";
+}
+
+TEST_F(Scanner, TheScanFaceAndTheDialogsAnswers) {
+    FrmGeneral& g = general();
+    QDir().mkpath(path("Music"));
+    bool seen = false;
+    tc.loop.post([&] {
+        seen = g.Visible() && g.Modal() && g.Drive1.Visible() && g.Dir1.Visible() && g.lblStartFrom.Visible() &&
+               g.cmdOK.Visible() && g.cmdCancel.Visible() && !g.cmdAdd.Visible() && !g.CmdClose.Visible() &&
+               !g.File1.Visible() && !g.Label1.Visible() && g.chkSubs.Visible();
+        g.Activate();
+        EXPECT_EQ(g.Dir1.Path(), dir.path()) << "the dialog starts where the main window is";
+        g.Dir1.setPath(path("Music"));
+        g.cmdCancel.Click();
+    });
+    form1().cmdSearch.Click();
+    EXPECT_TRUE(seen);
+    EXPECT_TRUE(tc.dialogs.shown().empty()) << "a cancelled dialog scans nothing";
+    EXPECT_FALSE(M().DialogAccepted);
+    EXPECT_EQ(form1().Dir1.Path(), dir.path());
+    // Back to the design: the add face.
+    EXPECT_TRUE(g.File1.Visible() && g.Label1.Visible() && g.cmdAdd.Visible() && g.CmdClose.Visible());
+    EXPECT_FALSE(g.lblStartFrom.Visible() || g.cmdOK.Visible() || g.cmdCancel.Visible());
+
+    // OK hands the directory and the sub-directory choice to the main window.
+    scan(path("Music"), true);
+    EXPECT_TRUE(M().DialogAccepted);
+    EXPECT_TRUE(M().IncludeSubDirs);
+    EXPECT_EQ(form1().Dir1.Path(), path("Music"));
+    EXPECT_EQ(form1().CurrentDir, path("Music") + u'/');
+    EXPECT_EQ(tc.dialogs.texts(), QStringList({"0 new titles found"}));
+
+    // A drive that isn't ready is asked about; on No the lists go back to the drive in use, at
+    // its current directory.
+    const QString usb = path("usb");
+    QDir().mkpath(usb);
+    tc.volumes.add(usb, "USB", false);
+    g.Drive1.Refresh();
+    tc.dialogs.clear();
+    tc.dialogs.answer(MsgResult::Yes).answer(MsgResult::No);
+    g.Drive1.setDrive(usb);
+    EXPECT_EQ(tc.dialogs.texts(), QStringList({"Not ready reading Drive " + usb + " Retry?",
+                                               "Not ready reading Drive " + usb + " Retry?"}));
+    EXPECT_EQ(tc.dialogs.shown()[0].title, "Change Drive");
+    EXPECT_EQ(g.Drive1.Drive(), "/");
+    EXPECT_EQ(g.Dir1.Path(), dir.path());
+    EXPECT_EQ(g.File1.Path(), dir.path());
+}
+
+TEST_F(Scanner, ManualAddThenUpdateKeepsWhatTheUserTyped) {
+    FrmGeneral& g = general();
+    song("Song.MP3", 200, {"First", "Band", "", "", 2001, 3});
+    song("Long.MP3", 40000);
+    const auto pick = [&](const QString& name) { g.File1.setListIndex(g.File1.rows().indexOf(name)); };
+    tc.loop.post([&] {
+        EXPECT_TRUE(g.File1.Visible() && g.cmdAdd.Visible() && !g.cmdOK.Visible() && !g.lblStartFrom.Visible());
+        g.Activate();
+        g.cmdAdd.Click();  // nothing picked yet
+        pick("Song.MP3");
+        g.cmdAdd.Click();
+        pick("Long.MP3");
+        g.cmdAdd.Click();
+        EXPECT_TRUE(g.Visible()) << "the dialog stays for the next file";
+        g.CmdClose.Click();
+    });
+    form1().CmdDataAdd.Click();
+    EXPECT_FALSE(g.Visible());
+    EXPECT_EQ(tc.dialogs.texts(), QStringList({"No file selected", "File Added", "File Added"}));
+    EXPECT_EQ(tc.dialogs.shown()[0].title, "Add/Update");
+    EXPECT_EQ(tc.dialogs.shown()[0].icon, MsgIcon::Exclamation);
+    EXPECT_EQ(tc.dialogs.shown()[1].title, "Manual Update");
+    EXPECT_EQ(tc.dialogs.shown()[1].icon, MsgIcon::Information);
+    EXPECT_EQ(column("Duration"), QStringList({"03:20", "00:00"})) << "a length past 16 bits is lost";
+    EXPECT_EQ(form1().lblRecords.Caption(), "0") << "the count is not refreshed";
+
+    // The user types a tempo and a title; the tag changes; the update takes the tag's texts
+    // and leaves the tempo.
+    form1().UpdateRecordCount();
+    Recordset& r = data.recordset();
+    r.MoveFirst();
+    r.Edit();
+    r.Fields(QStringLiteral("Tempo")).setValue(QStringLiteral("Slow"));
+    r.Fields(QStringLiteral("Song Title")).setValue(QStringLiteral("Typed"));
+    r.Update();
+    tc.mp3.addFile(path("Song.MP3"), 100, 200, 128, 44100, 0, {"Second", "Band", "", "", 2002, 3});
+    tc.dialogs.clear();
+    tc.loop.post([&] {
+        g.Activate();
+        pick("Song.MP3");
+        g.cmdAdd.Click();
+        g.CmdClose.Click();
+    });
+    form1().CmdDataAdd.Click();
+    EXPECT_EQ(tc.dialogs.texts(), QStringList({"File Updated"}));
+    EXPECT_EQ(column("Song Title"), QStringList({"Second", ""}));
+    EXPECT_EQ(column("Year"), QStringList({"2002", "0"}));
+    EXPECT_EQ(column("Tempo"), QStringList({"Slow", ""}));
+}
+
+// The known names answer as a walk over positions 1 to a limit, comparing in upper case,
+// through every resize and overwrite.
+TEST(ScanKnownPaths, AnswerAsTheLinearUpperCaseSearch) {
+    KnownPathList known;
+    std::vector<QString> model;
+    std::mt19937 rng(11);
+    const QStringList names = {"/m/a.MP3", "/m/A.mp3", "/m/b.MP3", "/n/c.MP3", ""};
+    auto linear = [&](const QString& path, int limit) {
+        for (int i = 1; i <= limit && i < int(model.size()); ++i)
+            if (model[size_t(i)].toUpper() == path.toUpper()) return true;
+        return false;
+    };
+    for (int round = 0; round < 3000; ++round) {
+        const int what = int(rng() % 10);
+        if (what == 0) {
+            const int last = int(rng() % 8) - 1;
+            known.resize(last);
+            model.resize(size_t(std::max(last + 1, 0)));
+        } else if (what < 6 && !model.empty()) {
+            const int at = int(rng() % model.size());
+            const QString name = names[int(rng() % names.size())];
+            known.set(at, name);
+            model[size_t(at)] = name;
+        } else {
+            const QString name = names[int(rng() % names.size())];
+            const int limit = int(rng() % 10);
+            ASSERT_EQ(known.contains(name, limit), linear(name, limit)) << "round " << round;
+        }
+    }
+    EXPECT_THROW(known.set(known.last() + 1, "x"), RuntimeError);
+}
+
+}  // namespace

@@ -2,11 +2,12 @@
 // files' tags and lengths through the same player, in the same run, so the result does not
 // depend on the machine. The outside tool `id3v2 -l` reading the same tags is shown for scale.
 //
-// One short MP3 is made with LAME and copied into 100 directories, each copy with its own tag
-// in its last 128 bytes. Then, in turn:
+// One short MP3 is made with LAME and copied into a tree laid out as a music collection is, an
+// artist's directory holding albums of 12 songs, each copy with its own tag in its last 128 bytes.
+// Then, in turn:
 //   bare   for each file: Open, the six tag reads and Length, Close (the files listed first)
 //   scan   the scan command from the top of the tree with sub-directories, into a new library:
-//          the walk, the known-name search, one record added and committed per file
+//          the walk, the known-name search, one record added per file, committed per directory
 //   tool   `id3v2 -l` over the same files, 500 names a run
 // The bare loop runs before and after the scan and its best time counts, so the page cache
 // favours neither. Ratio = scan / bare; the goal is under 2.
@@ -60,13 +61,16 @@ QStringList makeTree(const QString& root, int files) {
     QFile::remove(base);
     QStringList made;
     for (int i = 0; i < files; ++i) {
-        const QString sub = QStringLiteral("%1/Artist %2").arg(root).arg(i % 100, 2, 10, QLatin1Char('0'));
+        const QString sub = QStringLiteral("%1/Artist %2/Album %3")
+                                .arg(root)
+                                .arg(i / 120, 3, 10, QLatin1Char('0'))
+                                .arg(i / 12, 4, 10, QLatin1Char('0'));
         QDir().mkpath(sub);
         const QString file = QStringLiteral("%1/Song %2.MP3").arg(sub).arg(i, 5, 10, QLatin1Char('0'));
         QFile out(file);
         out.open(QIODevice::WriteOnly);
-        out.write(audio + id3v1Block("Title " + QByteArray::number(i), "Artist " + QByteArray::number(i % 100),
-                                     "Album " + QByteArray::number(i % 700), "1999",
+        out.write(audio + id3v1Block("Title " + QByteArray::number(i), "Artist " + QByteArray::number(i / 120),
+                                     "Album " + QByteArray::number(i / 12), "1999",
                                      "Comment " + QByteArray::number(i), static_cast<unsigned char>(i % 80)));
         made << file;
     }

@@ -50,6 +50,13 @@ public:
     virtual ~Database() = default;
     virtual void Execute(const QString& statement) = 0;
     virtual void Close() = 0;
+    // What is written between BeginTrans and CommitTrans reaches the disk together at the
+    // commit, one wait for the disk instead of one per record. A statement that fails inside
+    // fails alone; the others stay. A commit that fails rolls everything back, so no
+    // transaction is left open.
+    virtual void BeginTrans() = 0;
+    virtual void CommitTrans() = 0;
+    virtual void Rollback() = 0;
 };
 
 class DataControl {

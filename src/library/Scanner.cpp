@@ -69,11 +69,9 @@ void Form1::cmdSearch_Click() {
     step([&] { frmGeneral.setFace(FrmGeneral::Face::Scan); });
     M.DialogAccepted = false;
     step([&] { frmGeneral.Show(C.loop, true); });
-    for (Control* c : std::initializer_list<Control*>{&frmGeneral.lblStartFrom, &frmGeneral.cmdCancel, &frmGeneral.cmdOK})
-        c->setVisible(false);
-    for (Control* c : std::initializer_list<Control*>{&frmGeneral.cmdAdd, &frmGeneral.CmdClose, &frmGeneral.Dir1,
-                                                      &frmGeneral.Drive1, &frmGeneral.File1, &frmGeneral.Label1})
-        c->setVisible(true);
+    FrmGeneral& g = frmGeneral;
+    FrmGeneral::showControls({&g.lblStartFrom, &g.cmdCancel, &g.cmdOK}, false);
+    FrmGeneral::showControls({&g.cmdAdd, &g.CmdClose, &g.Dir1, &g.Drive1, &g.File1, &g.Label1}, true);
     if (!M.DialogAccepted) return;
 
     step([&] { cmdSearch.setPicture(imgCancelSearch.picture()); });
@@ -166,13 +164,21 @@ bool Form1::ScanDirectory(QString& newPath, std::int32_t& dirCount, QString& bac
         if (abandon) return result;
     }
 
+    // A directory's records are committed together: no events run inside the loop, so nothing
+    // else sees the library while the transaction is open.
     if (Fillist.ListCount() != 0) {
         const QString thePath = withSlash(Dir1.Path());
         const int files = Fillist.ListCount();
+        bool inTransaction = false;
+        step([&] {
+            C.data.database().BeginTrans();
+            inTransaction = true;
+        });
         for (int ind = 0; ind < files; ++ind) {
             const QString name = Fillist.List(ind);
             scanFile(*this, thePath + name, name);
         }
+        if (inTransaction) step([&] { C.data.database().CommitTrans(); });
     }
     if (!backUp.isEmpty()) step([&] { Dir1.setPath(backUp); });
     return result;

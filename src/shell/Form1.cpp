@@ -72,6 +72,7 @@ void Form1::wireHandlers() {
     cmdDatabaseClose.onClick = [this] { mnuDatabase_Click(); };
     wireGrid();
     wireScanner();
+    wireCriteria();
     for (TextBox* box : {&txtTitle, &txtArtist, &txtAlbum, &txtComment})
         box->onKeyPress = [box](int& key) { LimitTyping(*box, 30, key); };
     txtYear.onKeyPress = [this](int& key) { LimitTyping(txtYear, 4, key); };

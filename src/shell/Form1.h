@@ -117,6 +117,16 @@ public:
     std::shared_ptr<class KnownPathList> KnownPaths;  // library/KnownPaths.h
     QStringList ScanTrail;  // real paths of the directories the walk is in, below its first level
     // ---- end of scanner ----
+    // ---- Library: Auto-Queue criteria (the lines live in frmGeneral.List1) ----
+    void wireCriteria();
+    void AddCriterion(const QString& kind);  // "Where" for mnuAdd, "And Not" for mnuExclude
+    void mnuClearCriteria_Click();
+    void mnuViewCriteria_Click();
+    void FrmGeneral_List1_DblClick();
+    QString JoinCriteria();
+    void mnuFilterAutoSet_Click();
+    void cmdAutoSet_Click();
+    void CreateFilter() {}  // has no effect; the name is all that is left of it
     // ---- Library: tags ----
     void UpdateTag();
     static void LimitTyping(const TextBox& box, int limit, int& keyAscii);

@@ -86,10 +86,12 @@ void FrmGeneral::design() {
     setFace(Face::ManualAdd);
 }
 
+void FrmGeneral::showControls(std::initializer_list<Control*> controls, bool visible) {
+    for (Control* c : controls) c->setVisible(visible);
+}
+
 void FrmGeneral::setFace(Face face) {
-    auto show = [](std::initializer_list<Control*> controls, bool visible) {
-        for (Control* c : controls) c->setVisible(visible);
-    };
+    const auto show = showControls;
     switch (face) {
     case Face::ManualAdd:
         show({&Drive1, &Dir1, &File1, &Label1, &cmdAdd, &CmdClose}, true);

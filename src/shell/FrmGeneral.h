@@ -35,6 +35,7 @@ public:
     // only ever hidden by the directory pick for skins).
     enum class Face { ManualAdd, Scan, Criteria };
     void setFace(Face face);
+    static void showControls(std::initializer_list<Control*> controls, bool visible);
 
     // Splash / About
     Panel PanelSplash{"PanelSplash"};

@@ -12,6 +12,9 @@ public:
         owner_.statements_ << statement;
     }
     void Close() override { owner_.record(QStringLiteral("Close")); }
+    void BeginTrans() override { owner_.record(QStringLiteral("BeginTrans")); }
+    void CommitTrans() override { owner_.record(QStringLiteral("CommitTrans")); }
+    void Rollback() override { owner_.record(QStringLiteral("Rollback")); }
 
 private:
     FakeDataControl& owner_;

@@ -35,6 +35,7 @@ protected:
         return *prog;
     }
     Form1& form1() { return program().form1; }
+    FrmGeneral& general() { return program().frmGeneral; }
     Module1& M() { return program().M; }
 
     QString path(const QString& name) const { return dir.filePath(name); }

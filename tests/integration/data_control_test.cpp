@@ -338,6 +338,35 @@ TEST_F(DataControlTest, EditingAddsChangesDeletesAndRefusesBadRecords) {
     EXPECT_EQ(errorOf([&] { rs.MoveLast(); }), 3021);
 }
 
+TEST_F(DataControlTest, TransactionsCommitTogetherAndLeaveNoLogBehind) {
+    const QString file = makeLibrary();
+    open(file);
+    Database& db = data.database();
+    db.BeginTrans();
+    add("/m/a.mp3", "A");
+    EXPECT_EQ(errorOf([&] { add("/m/a.mp3", "again"); }), 3022);  // fails alone
+    data.recordset().CancelUpdate();
+    add("/m/b.mp3", "B");
+    EXPECT_EQ(sqliteTool(file, "select count(*) from SongData"), "0") << "nothing shows before the commit";
+    db.CommitTrans();
+    EXPECT_EQ(sqliteTool(file, "select group_concat(Artist) from SongData"), "A,B");
+
+    db.BeginTrans();
+    add("/m/c.mp3", "C");
+    db.Rollback();
+    EXPECT_EQ(sqliteTool(file, "select count(*) from SongData"), "2");
+    EXPECT_NE(errorOf([&] { db.CommitTrans(); }), 0) << "no transaction is open";
+    db.BeginTrans();  // and none was left open by the failed commit
+    db.CommitTrans();
+
+    // Closed, the file is back on its plain journal: no log beside it, and readers of any kind
+    // find everything in the file itself.
+    db.Close();
+    EXPECT_FALSE(QFile::exists(file + "-wal"));
+    EXPECT_EQ(sqliteTool(file, "pragma journal_mode"), "delete");
+    EXPECT_EQ(sqliteTool(file, "select count(*) from SongData"), "2");
+}
+
 TEST_F(DataControlTest, FindFirstSearchesTheViewFromItsTop) {
     open(makeLibrary(), "Select * From SongData Order By [Album] ");
     Recordset& rs = data.recordset();

@@ -129,8 +129,17 @@ void SqliteConnection::configure() {
                                    likeFunction, nullptr, nullptr, nullptr);
 }
 
+void SqliteConnection::useWriteAheadLog() {
+    if (writeAheadLog_ || readOnly_ || !db_) return;
+    // Where the log can't be made, the plain journal goes on working, only slower.
+    writeAheadLog_ =
+        sqlite3_exec(db_, "PRAGMA journal_mode=WAL; PRAGMA synchronous=NORMAL", nullptr, nullptr, nullptr) == SQLITE_OK;
+}
+
 void SqliteConnection::close() {
     cache_.clear();
+    if (db_ && writeAheadLog_) sqlite3_exec(db_, "PRAGMA journal_mode=DELETE", nullptr, nullptr, nullptr);
+    writeAheadLog_ = false;
     if (db_) sqlite3_close_v2(db_);
     db_ = nullptr;
 }

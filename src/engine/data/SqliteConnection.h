@@ -39,7 +39,13 @@ public:
     bool isOpen() const { return db_ != nullptr; }
     bool readOnly() const { return readOnly_; }
     // Lets go of the file; every later use fails with "Object invalid or no longer set."
+    // A file that was written through the write-ahead log goes back to its plain journal first,
+    // so that no log is left beside it and any reader, read-only ones too, can open it.
     void close();
+    // Before a run of transactions: commits go to a write-ahead log and don't each wait for the
+    // disk, while a crash or power loss still leaves the file whole (it may lose the last
+    // commits). Only for a file that is being written anyway, so opening never changes one.
+    void useWriteAheadLog();
 
     // `context` is the statement as the caller wrote it, shown in syntax errors.
     SqliteStatement prepare(const QString& sql, const QString& context = {});
@@ -66,6 +72,7 @@ private:
     QString path_;
     QString shownName_;  // as the caller named the file, for messages
     bool readOnly_;
+    bool writeAheadLog_ = false;
     std::pair<std::uint64_t, std::uint64_t> identity_;  // device and inode when opened
     std::map<QString, std::unique_ptr<SqliteStatement>> cache_;
 };

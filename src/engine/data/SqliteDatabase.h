@@ -22,8 +22,12 @@ public:
     void Execute(const QString& statement) override;
     // Closing what is closed, or was never open, is harmless.
     void Close() override;
+    void BeginTrans() override;
+    void CommitTrans() override;
+    void Rollback() override;
 
 private:
+    SqliteConnection& open() const;
     std::shared_ptr<SqliteConnection> connection_;
 };
 

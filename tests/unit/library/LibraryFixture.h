@@ -34,6 +34,14 @@ protected:
         r.Update();
     }
 
+    // Four songs in two folders: two by Queen, two on the album Gold, one without an album.
+    void addFourSongs() {
+        addRecord("/m/Rock", "Song A", "Queen", "Jazz");
+        addRecord("/m/Rock", "Song B", "Abba", "Gold");
+        addRecord("/m/Pop", "Song C", "Blondie", "Gold");
+        addRecord("/m/Pop", "Song D", "Queen", "");
+    }
+
     SqliteDataControl data;
 };
 

@@ -11,10 +11,7 @@ class Grid : public LibraryFixture {
 protected:
     void SetUp() override {
         LibraryFixture::SetUp();
-        addRecord("/m/Rock", "Song A", "Queen", "Jazz");
-        addRecord("/m/Rock", "Song B", "Abba", "Gold");
-        addRecord("/m/Pop", "Song C", "Blondie", "Gold");
-        addRecord("/m/Pop", "Song D", "Queen", "");
+        addFourSongs();
         form1().imgButon[1].Click();  // by File, as the first activation leaves it
         tc.dialogs.clear();
     }

@@ -20,7 +20,6 @@ protected:
         tc.dialogs.setAutoAnswerOk(true);
     }
 
-    FrmGeneral& general() { return program().frmGeneral; }
 
     // An empty file in the test's directory (the drive's current directory), with the tag and
     // length the fake player gives it.

@@ -47,7 +47,6 @@ void scanFile(Form1& f, const QString& entry, const QString& fileName) {
 
 void Form1::wireScanner() {
     KnownPaths = std::make_shared<KnownPathList>();
-    frmGeneral.attachVolumes(C.volumes);
     cmdSearch.onClick = [this] { cmdSearch_Click(); };
     CmdDataAdd.onClick = [this] { CmdDataAdd_Click(); };
     frmGeneral.onActivate = [this] { FrmGeneral_Activate(); };

@@ -6,30 +6,14 @@
 
 namespace sonarium {
 
-std::vector<Volume> FrmGeneral::SharedVolumes::list() {
-    return target ? target->list() : std::vector<Volume>{{QStringLiteral("/"), QString()}};
-}
-
-bool FrmGeneral::SharedVolumes::ready(const QString& root) { return target ? target->ready(root) : true; }
-
-FrmGeneral::FrmGeneral()
+FrmGeneral::FrmGeneral(Volumes& volumes)
     : Form(QStringLiteral("FrmGeneral")),
-      Drive1(QStringLiteral("Drive1"), volumes_),
-      Dir1(QStringLiteral("Dir1"), volumes_) {
+      Drive1(QStringLiteral("Drive1"), volumes),
+      Dir1(QStringLiteral("Dir1"), volumes) {
     setCaption(QStringLiteral("Sonarium"));
     design();
     // The About box closes with its OK button.
     SScmdOK.onClick = [this] { Hide(); };
-}
-
-void FrmGeneral::attachVolumes(Volumes& volumes) {
-    volumes_.target = &volumes;
-    Drive1.Refresh();
-    // The current directory may lie on a mount of its own, which is then the drive in use.
-    tryStep([&] { Drive1.setDrive(QDir::cleanPath(QDir::currentPath())); });
-    // The stand-in put the current directory on the root; it belongs to its own drive.
-    Dir1.setDriveDirectory(QStringLiteral("/"));
-    Dir1.setDriveDirectory(Dir1.Path());
 }
 
 // Sizes in twips, 15 to a pixel: a dialog of 400 by 240 pixels. The headings share the top

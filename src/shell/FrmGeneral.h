@@ -12,23 +12,10 @@
 namespace sonarium {
 
 class FrmGeneral : public Form {
-    // The dialog is built before the components are handed round, so its lists start on this
-    // stand-in: the root volume alone until attachVolumes gives it the machine's volumes.
-    // Declared first, as the lists below are built on it.
-    class SharedVolumes : public Volumes {
-    public:
-        Volumes* target = nullptr;
-        std::vector<Volume> list() override;
-        bool ready(const QString& root) override;
-    };
-    SharedVolumes volumes_;
-
 public:
-    FrmGeneral();
-
-    // From now on the drive and directory lists see these volumes (the main window's), and
-    // start on the drive and directory of the process's current directory.
-    void attachVolumes(Volumes& volumes);
+    // The drive and directory lists see the machine's volumes, and start on the drive and
+    // directory of the process's current directory.
+    explicit FrmGeneral(Volumes& volumes);
 
     // The faces that use the lists. Each shows its controls and hides those it has no use
     // for; a control it doesn't name keeps its state (the check box for sub-directories is

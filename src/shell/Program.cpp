@@ -9,7 +9,7 @@
 namespace sonarium {
 
 Program::Program(Components& components)
-    : C(components), form1(M, components, frmGeneral, form2, frmMiniPlayer) {}
+    : C(components), frmGeneral(components.volumes), form1(M, components, frmGeneral, form2, frmMiniPlayer) {}
 
 // Every step that fails is skipped and the next one runs.
 void Program::Main() {

@@ -34,6 +34,15 @@ protected:
         }
         return *prog;
     }
+    // The program on the fakes, but with `data` as its data control (a real library).
+    Program& programOn(DataControl& data) {
+        Components c = tc.components();
+        components = std::make_unique<Components>(Components{
+            c.loop, c.dialogs, c.desktop, c.pictures, c.volumes, c.mp3, c.mp32, c.encoder, c.cd, c.mixer, c.peak,
+            data, c.processes, c.commandLine, c.startDir});
+        prog = std::make_unique<Program>(*components);
+        return *prog;
+    }
     Form1& form1() { return program().form1; }
     FrmGeneral& general() { return program().frmGeneral; }
     Module1& M() { return program().M; }

@@ -5,6 +5,7 @@
 #include <QApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <functional>
 
 #include "ProgramFixture.h"
 #include "ui/GeneralWindow.h"
@@ -50,6 +51,19 @@ protected:
         QCoreApplication::sendEvent(&w, &press);
         QKeyEvent release(QEvent::KeyRelease, qtKey, mods, text);
         QCoreApplication::sendEvent(&w, &release);
+    }
+
+    // Runs `fn` inside FrmGeneral's modal wait, once its window is up.
+    void whileShown(std::function<void(GeneralWindow&)> fn) {
+        tc.loop.startTimer(
+            50,
+            [this, fn] {
+                settle();
+                program().frmGeneral.Activate();  // the window manager's focus, which offscreen lacks
+                settle();
+                fn(views->general());
+            },
+            true);
     }
 
     std::unique_ptr<Views> views;

@@ -21,18 +21,6 @@ protected:
         program().Main();
         settle();
     }
-    // Runs `fn` inside the dialog's modal wait, once the window is up.
-    void whileShown(std::function<void(GeneralWindow&)> fn) {
-        tc.loop.startTimer(
-            50,
-            [this, fn] {
-                settle();
-                program().frmGeneral.Activate();  // the window manager's focus, which offscreen lacks
-                settle();
-                fn(views->general());
-            },
-            true);
-    }
     bool shown(GeneralWindow& w, const char* name) {
         QWidget* v = find(w, name);
         return v && v->isVisible();

@@ -1,8 +1,11 @@
-// The library panel in the real window, over a real library of a few hundred records: opened
-// from its button, ordered by artist with a column button, filtered on an album through the
-// column menu, a cell typed into; screenshots of the panel before and after the filter.
+// The library panel in the real window over a real library. A few hundred records: opened from
+// its button, ordered by artist with a column button, filtered on an album through the column
+// menu, a cell typed into. And a user's evening: a folder scanned, ordered, filtered, its songs
+// queued by Auto-Queue criteria, the queue saved as a song set and loaded back. Screenshots of
+// each stage.
 #include <QAbstractEventDispatcher>
 #include <QHeaderView>
+#include <QListWidget>
 #include <QTableView>
 
 #include "WindowsFixture.h"
@@ -16,17 +19,10 @@ class LibraryWindowTest : public WindowsFixture {
 protected:
     void SetUp() override {
         ProgramFixture::SetUp();
-        Components c = tc.components();
-        components = std::make_unique<Components>(Components{
-            c.loop, c.dialogs, c.desktop, c.pictures, c.volumes, c.mp3, c.mp32, c.encoder, c.cd, c.mixer, c.peak,
-            data, c.processes, c.commandLine, c.startDir});
-        prog = std::make_unique<Program>(*components);
-        views = std::make_unique<Views>(program());
+        views = std::make_unique<Views>(programOn(data));
         program().Main();
         settle();
         if (form1().DatabaseAttached == 0) form1().Form_Activate();
-        fill(300);
-        form1().imgButon[1].Click();
         tc.dialogs.clear();
         settle();
     }
@@ -81,12 +77,26 @@ protected:
         idle();
     }
     QString cell(int row, int column) { return table().model()->index(row, column).data().toString(); }
+    int rowOf(int column, const QString& text) {
+        for (int row = 0; row < table().model()->rowCount(); ++row)
+            if (cell(row, column) == text) return row;
+        ADD_FAILURE() << "no row with " << text.toStdString();
+        return 0;
+    }
+    // The column menu of `column` on the grid's row `row`, and its entry `entry`.
+    void menu(int row, int column, const char* entry) {
+        clickCell(row, column);
+        tc.dialogs.answerPopup(QString::fromLatin1(entry));
+        press(QStringLiteral("imgDown(%1)").arg(column));
+    }
 
     SqliteDataControl data;
 };
 
 TEST_F(LibraryWindowTest, OpenOrderFilterAndTypeInTheGrid) {
     Form1& f = form1();
+    fill(300);
+    f.imgButon[1].Click();
     press("imgDataBase");
     ASSERT_TRUE(f.PanelDatabase.Visible());
     QTableView& grid = table();
@@ -130,6 +140,86 @@ TEST_F(LibraryWindowTest, OpenOrderFilterAndTypeInTheGrid) {
     EXPECT_EQ(data.recordset().Fields(9).Value().toString(), "Fa");
     clickCell(2, 0);
     saveScreenshot(main(), "library-filtered.png");
+}
+
+TEST_F(LibraryWindowTest, ScanOrderFilterAutoQueueAndASongSet) {
+    Form1& f = form1();
+    tc.dialogs.setAutoAnswerOk(true);
+    struct Song {
+        const char *artist, *album, *title;
+    };
+    const Song songs[] = {{"Nina Vale", "Low Tide", "Harbour Lights"}, {"Nina Vale", "Low Tide", "Undertow"},
+                          {"Nina Vale", "Paper Moons", "Kites"},       {"Marco Lind", "Low Tide", "Saltwater"},
+                          {"Marco Lind", "Open Roads", "Mile Markers"}, {"Aurora Fields", "Open Roads", "Dust"},
+                          {"Aurora Fields", "Wild Honey", "Clover"}};
+    for (const Song& s : songs) {
+        const QString rel = QStringLiteral("Music/%1/%2/%3.MP3").arg(s.artist, s.album, s.title);
+        ASSERT_TRUE(QDir().mkpath(QFileInfo(path(rel)).path()));
+        write(rel, {});
+        tc.mp3.addFile(path(rel), 100, 200, 128, 44100, 0, {s.title, s.artist, s.album, {}, 2001, 17});
+    }
+
+    press("imgDataBase");
+    whileShown([&](GeneralWindow& w) {
+        program().frmGeneral.Dir1.setPath(path("Music"));
+        find<QAbstractButton>(w, "chkSubs")->click();
+        find<QAbstractButton>(w, "cmdOK")->click();
+    });
+    press("cmdSearch");
+    EXPECT_EQ(tc.dialogs.texts(), QStringList({"7 new titles found"}));
+    EXPECT_EQ(f.lblRecords.Caption(), "7");
+
+    press("imgButon(3)");
+    EXPECT_EQ(cell(0, 3), "Aurora Fields");
+    EXPECT_EQ(cell(6, 3), "Nina Vale");
+    menu(rowOf(4, "Low Tide"), 4, "mnuFilter");
+    EXPECT_EQ(f.lblFilter.Caption(), "Album - Low Tide");
+    ASSERT_EQ(table().model()->rowCount(), 3);
+    saveScreenshot(main(), "library-scanned-filtered.png");
+
+    // This album, but not one of its songs; then, with the filter off, one more artist.
+    menu(0, 4, "mnuAdd");
+    menu(rowOf(2, "Undertow"), 2, "mnuExclude");
+    press("imgButon(4)");
+    EXPECT_EQ(f.lblFilter.Caption(), "Off");
+    menu(rowOf(3, "Aurora Fields"), 3, "mnuAdd");
+    const QStringList criteria = {"Where [Album] Like (\"Low Tide\") ", "And Not [Song Title] Like (\"Undertow\") ",
+                                  "Or [Artist] Like (\"Aurora Fields\") "};
+    whileShown([&](GeneralWindow& w) {
+        auto* list = find<QListWidget>(w, "List1");
+        ASSERT_NE(list, nullptr);
+        EXPECT_TRUE(list->isVisible());
+        EXPECT_EQ(list->count(), 3);
+        saveScreenshot(w, "criteria.png");
+        find<QAbstractButton>(w, "cmdOK")->click();
+    });
+    tc.dialogs.answerPopup("mnuViewCriteria");
+    press("imgDown(3)");
+    EXPECT_EQ(program().frmGeneral.List1.rows(), criteria);
+
+    press("cmdAutoSet");
+    const QStringList queued = f.lstSongs.rows();
+    ASSERT_EQ(queued.size(), 4);
+    EXPECT_EQ(queued.filter("Undertow").size(), 0);
+    EXPECT_EQ(queued.last(), "Harbour Lights") << "in the grid's artist order";
+    auto* queue = find<QListWidget>(main(), "lstSongs");
+    ASSERT_NE(queue, nullptr);
+    EXPECT_EQ(queue->count(), 4);
+    press("imgDataBase");  // the panel closes over the queue
+    EXPECT_TRUE(queue->isVisible());
+    saveScreenshot(main(), "auto-queue.png");
+
+    tc.dialogs.answerFile(path("Evening.EST"));
+    f.mnuSaveSongSet.Click();
+    press("cmdDeleteAll");
+    EXPECT_EQ(queue->count(), 0);
+    tc.dialogs.answerFile(path("Evening.EST"));
+    f.mnuLoadSongSet.Click();
+    settle();
+    EXPECT_EQ(f.lstSongs.rows(), queued);
+    EXPECT_EQ(queue->count(), 4);
+    EXPECT_TRUE(f.SongPathOf(0).startsWith(path("Music/Aurora Fields/"))) << f.SongPathOf(0).toStdString();
+    saveScreenshot(main(), "song-set-loaded.png");
 }
 
 }  // namespace

@@ -10,12 +10,7 @@ class LibraryFixture : public ProgramFixture {
 protected:
     void SetUp() override {
         ProgramFixture::SetUp();
-        Components c = tc.components();
-        components = std::make_unique<Components>(Components{
-            c.loop, c.dialogs, c.desktop, c.pictures, c.volumes, c.mp3, c.mp32, c.encoder, c.cd, c.mixer, c.peak,
-            data, c.processes, c.commandLine, c.startDir});
-        prog = std::make_unique<Program>(*components);
-        program().Main();
+        programOn(data).Main();
         form1().Form_Activate();  // the first activation attaches the library
         tc.dialogs.clear();
     }

@@ -80,6 +80,9 @@ void Form1::wireHandlers() {
         if (key == 32) key = 0;
     };
 
+    mnuVU.onClick = [this] { mnuVU_Click(); };
+    TimerMix.onTimer = [this] { TimerMix_Timer(); };
+
     // Fade, position and speed
     Timer1.onTimer = [this] { Timer1_Timer(); };
     C.mp3.onFrameNotify = [this](std::int32_t frame) { FrameNotify(frame); };

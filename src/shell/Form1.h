@@ -266,7 +266,9 @@ public:
     std::int32_t LastFrame = 0;  // the frame of the last notification, for the desktop's position
     std::array<std::int32_t, 2> VUMeterControl{};
     bool AlarmDone = false;
-    std::int32_t PeakMaximum = 0, LampStep = 0;
+    std::int32_t PeakMaximum = 0, LampStep = 0, PeakValue = 0;
+    void mnuVU_Click();
+    void TimerMix_Timer();
     int DatabaseAttached = 0;  // the focus handler's own flag
     bool closing_ = false;
 

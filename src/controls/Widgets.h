@@ -107,14 +107,18 @@ private:
     QString printed_;
 };
 
+// A panel; a skin may give it a background picture, drawn from its top left corner.
 class Panel : public Control {
 public:
     using Control::Control;
     const QString& Caption() const { return caption_; }
     void setCaption(const QString& c) { set(caption_, c); }
+    const Picture& picture() const { return picture_; }
+    void setPicture(const Picture& p) { picture_ = p, notify(); }
 
 private:
     QString caption_;
+    Picture picture_;
 };
 
 // A command button with a caption (the skinned ones use an Image instead).

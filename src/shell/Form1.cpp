@@ -81,6 +81,7 @@ void Form1::wireHandlers() {
     };
 
     mnuVU.onClick = [this] { mnuVU_Click(); };
+    mnuSelectSkin.onClick = [this] { mnuSelectSkin_Click(); };
     TimerMix.onTimer = [this] { TimerMix_Timer(); };
 
     // Fade, position and speed

@@ -140,6 +140,10 @@ public:
     void SelectDrive(int drive);
     void GetTitles();
     void LoadSkin();
+    // The pictures and colours of the skin files in `dir`, without the check that it is a
+    // skin; also how the built-in look is put on. Throws at the first failing step.
+    void ApplySkinFiles(const QString& dir);
+    void mnuSelectSkin_Click();
     void LoadSkinMini();
     void imgButon_Click(int index);
     void UpdateRecordCount();

@@ -1,9 +1,7 @@
-// Applying the skins at start-up; the skin loaders land with the skin work.
+// The mini player's skin; its loader lands with the mini player.
 #include "shell/Form1.h"
 
 namespace sonarium {
-
-void Form1::LoadSkin() {}
 
 void Form1::LoadSkinMini() {}
 

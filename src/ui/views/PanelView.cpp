@@ -12,7 +12,8 @@ PanelView::PanelView(sonarium::Panel& model, QWidget* parent) : ControlView(mode
 
 void PanelView::paintEvent(QPaintEvent*) {
     QPainter p(this);
-    hifi::paintPanel(p, rect(), panel_.BackColor() ? toQColor(*panel_.BackColor()) : hifi::colours::panel);
+    if (!painter_.paint(p, rect(), panel_.picture(), false))
+        hifi::paintPanel(p, rect(), panel_.BackColor() ? toQColor(*panel_.BackColor()) : hifi::colours::panel);
     if (panel_.Caption().isEmpty()) return;
     p.setPen(panel_.ForeColor() ? toQColor(*panel_.ForeColor()) : hifi::colours::legend);
     p.drawText(rect(), Qt::AlignCenter, panel_.Caption());

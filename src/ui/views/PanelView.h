@@ -1,10 +1,11 @@
 #pragma once
 // A panel: the container of other views, a raised panel of the front (its back colour when the
-// model has one), with its caption centred when it has one.
+// model has one) or the picture a skin gave it, with its caption centred when it has one.
 #include <QFrame>
 
 #include "controls/Widgets.h"
 #include "ui/views/ControlView.h"
+#include "ui/views/PicturePainter.h"
 
 namespace sonarium {
 
@@ -18,6 +19,7 @@ protected:
 
 private:
     sonarium::Panel& panel_;
+    PicturePainter painter_;
 };
 
 }  // namespace sonarium

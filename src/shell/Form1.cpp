@@ -1,5 +1,7 @@
 #include "shell/Form1.h"
 
+#include "controls/Errors.h"
+
 namespace sonarium {
 
 Form1::Form1(Module1& m, Components& c, FrmGeneral& general, Form2& f2, FrmMiniPlayer& mini)
@@ -11,6 +13,9 @@ Form1::Form1(Module1& m, Components& c, FrmGeneral& general, Form2& f2, FrmMiniP
       form2(f2),
       frmMiniPlayer(mini) {
     design();
+    // The built-in look is the default skin, shipped inside the program. Where it can't be read
+    // the controls keep the plain look they were designed with.
+    tryStep([&] { ApplySkinFiles(BuiltInSkin); });
     wireHandlers();
 }
 

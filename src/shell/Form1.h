@@ -143,6 +143,7 @@ public:
     // The pictures and colours of the skin files in `dir`, without the check that it is a
     // skin; also how the built-in look is put on. Throws at the first failing step.
     void ApplySkinFiles(const QString& dir);
+    static inline const QString BuiltInSkin = QStringLiteral(":/skins/Default");
     void mnuSelectSkin_Click();
     void LoadSkinMini();
     void imgButon_Click(int index);

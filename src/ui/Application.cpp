@@ -4,6 +4,7 @@
 #include <QGuiApplication>
 #include <QTimer>
 
+#include "ui/Assets.h"
 #include "ui/FormWindow.h"
 #include "ui/MainWindow.h"
 #include "ui/mpris/MprisService.h"
@@ -18,6 +19,7 @@ QByteArray platformFor(const QByteArray& sessionType, const QByteArray& waylandD
 }
 
 void Application::prepareProcess() {
+    initAssets();  // the main window's built-in skin is read as it is built
     const QByteArray platform =
         platformFor(qgetenv("XDG_SESSION_TYPE"), qgetenv("WAYLAND_DISPLAY"), qgetenv("QT_QPA_PLATFORM"));
     if (!platform.isEmpty()) qputenv("QT_QPA_PLATFORM", platform);

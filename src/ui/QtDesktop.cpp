@@ -14,9 +14,7 @@
 #include <QUrl>
 
 #include "controls/Picture.h"
-
-// The resources live in a static library: referenced here, so the linker keeps them.
-static void initAssets() { Q_INIT_RESOURCE(assets); }
+#include "ui/Assets.h"
 
 namespace sonarium {
 

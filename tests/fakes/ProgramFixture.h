@@ -31,6 +31,7 @@ protected:
         if (!prog) {
             components = std::make_unique<Components>(tc.components());
             prog = std::make_unique<Program>(*components);
+            tc.pictures.clearCalls();  // the built-in skin's tries, made as the window is built
         }
         return *prog;
     }
@@ -41,6 +42,7 @@ protected:
             c.loop, c.dialogs, c.desktop, c.pictures, c.volumes, c.mp3, c.mp32, c.encoder, c.cd, c.mixer, c.peak,
             data, c.processes, c.commandLine, c.startDir});
         prog = std::make_unique<Program>(*components);
+        tc.pictures.clearCalls();
         return *prog;
     }
     Form1& form1() { return program().form1; }

@@ -247,6 +247,14 @@ void Form1::design() {
     layOutLibrary(*this);
     place(InfoPanel, nullptr, 0, 202, 634, 263);
     InfoPanel.setVisible(false);
+    // The info viewer's commands along the foot of its panel.
+    place(cmdInfoLeft, &InfoPanel, 6, 240, 10, 18);
+    place(cmdInfoRight, &InfoPanel, 18, 240, 10, 18);
+    place(btnGigGuide, &InfoPanel, 36, 241, 78, 17);
+    place(btnContact, &InfoPanel, 118, 241, 78, 17);
+    place(cmdCurrentSongInfo, &InfoPanel, 200, 241, 78, 17);
+    place(cmdPrint, &InfoPanel, 282, 241, 41, 17);
+    place(cmdCloseInfoViewer, &InfoPanel, 550, 241, 78, 17);
     place(PanelAlarm, nullptr, 200, 60, 240, 200);
     PanelAlarm.setVisible(false);
     place(lblAlarmHeading, &PanelAlarm, 8, 6, 224, 18);
@@ -270,7 +278,7 @@ void Form1::design() {
     // Source pictures and helper lists that are never seen.
     for (Control* hidden : std::initializer_list<Control*>{
              &imgMpeg3, &imgVUGreen, &imgVUAmber, &imgVURed, &imgVUPurple, &imgRedBall, &imgGreenBall,
-             &Indent, &Button, &ButtonBlue, &List1, &ListGen, &Fillist, &CboFontName, &CboFontSize})
+             &imgAutoUpdate, &imgCancelSearch, &Indent, &Button, &ButtonBlue, &List1, &ListGen, &Fillist, &CboFontName, &CboFontSize})
         hidden->setVisible(false);
     List1.setSorted(true);
     for (int size : {8, 9, 10, 11, 12, 14, 16, 18, 20, 22, 24, 26, 28, 36, 72})

@@ -8,6 +8,8 @@
 #include <functional>
 
 #include "ProgramFixture.h"
+#include "engine/QtPictureLoader.h"
+#include "ui/Assets.h"
 #include "ui/GeneralWindow.h"
 #include "ui/MainWindow.h"
 #include "ui/Views.h"
@@ -18,6 +20,7 @@ class WindowsFixture : public ProgramFixture {
 protected:
     void SetUp() override {
         ProgramFixture::SetUp();
+        registerSkin(Form1::BuiltInSkin);
         views = std::make_unique<Views>(program());
     }
     void TearDown() override {
@@ -26,6 +29,17 @@ protected:
     }
 
     MainWindow& main() { return views->main(); }
+    // The sheets of the skin in `dir` become loadable through the fake loader, decoded by the
+    // real one, so the windows wear the skin the program is given.
+    void registerSkin(const QString& dir) {
+        initAssets();
+        QtPictureLoader real;
+        for (const char* sheet : {"PanelDatabase.bmp", "Buttons.bmp", "Panels.bmp"}) {
+            const QString file = dir + u'/' + QLatin1String(sheet);
+            tc.pictures.add(file, real.load(file));
+        }
+    }
+
     // Lets Qt deliver what is pending (shows, activation, repaints).
     static void settle() {
         for (int i = 0; i < 3; ++i) QCoreApplication::processEvents();
@@ -45,6 +59,13 @@ protected:
     static void click(QWidget& w, QPoint at, Qt::MouseButton button = Qt::LeftButton) {
         mouse(w, QEvent::MouseButtonPress, at, button);
         mouse(w, QEvent::MouseButtonRelease, at, button);
+    }
+    // A click near the top left corner of the main window's control `name`.
+    void press(const QString& name) {
+        QWidget* w = find(main(), name);
+        ASSERT_NE(w, nullptr) << name.toStdString();
+        click(*w, QPoint(3, 3));
+        settle();
     }
     static void key(QWidget& w, int qtKey, const QString& text = {}, Qt::KeyboardModifiers mods = Qt::NoModifier) {
         QKeyEvent press(QEvent::KeyPress, qtKey, mods, text);

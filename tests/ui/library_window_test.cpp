@@ -19,6 +19,7 @@ class LibraryWindowTest : public WindowsFixture {
 protected:
     void SetUp() override {
         ProgramFixture::SetUp();
+        registerSkin(Form1::BuiltInSkin);
         views = std::make_unique<Views>(programOn(data));
         program().Main();
         settle();
@@ -63,9 +64,7 @@ protected:
         settle();
     }
     void press(const QString& name) {
-        QWidget* w = find(main(), name);
-        ASSERT_NE(w, nullptr) << name.toStdString();
-        click(*w, QPoint(4, 4));
+        WindowsFixture::press(name);
         idle();
     }
     QTableView& table() { return *find<QTableView>(main(), "DBGrid1"); }

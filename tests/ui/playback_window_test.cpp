@@ -24,12 +24,6 @@ protected:
         click(*list.viewport(), list.visualItemRect(list.item(row)).center());
         settle();
     }
-    void press(const char* name) {
-        QWidget* w = find(main(), name);
-        ASSERT_NE(w, nullptr) << name;
-        click(*w, QPoint(3, 3));
-        settle();
-    }
 };
 
 TEST_F(PlaybackWindowTest, QueuePlayPauseSkipAndFadeFromTheWindow) {

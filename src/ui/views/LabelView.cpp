@@ -18,12 +18,25 @@ void LabelView::syncOwn() {
     setAlignment(h | Qt::AlignVCenter);
 }
 
+namespace {
+
+// A skin draws the wells of the displays on the panels themselves; a label over a skinned
+// panel lets that show through.
+bool onSkinnedPanel(const Control& c) {
+    const Control* holder = c.Container();
+    if (const auto* image = dynamic_cast<const Image*>(holder)) return !image->picture().isNull();
+    if (const auto* panel = dynamic_cast<const Panel*>(holder)) return !panel->picture().isNull();
+    return false;
+}
+
+}  // namespace
+
 void LabelView::paintEvent(QPaintEvent*) {
     QPainter p(this);
     const bool display = !label_.Description().isEmpty();
     if (label_.BackColor())
         p.fillRect(rect(), toQColor(*label_.BackColor()));
-    else if (display)
+    else if (display && !onSkinnedPanel(label_))
         hifi::paintDisplay(p, rect());
 
     QColor ink = display ? hifi::colours::displayText : hifi::colours::legend;

@@ -15,22 +15,18 @@
 // Usage: bench_scan [files]   (10,000 by default)
 #include <QCoreApplication>
 #include <QDir>
-#include <QDirIterator>
+#include <QFile>
 #include <QTemporaryDir>
 #include <chrono>
 #include <cstdio>
 #include <functional>
 #include <memory>
 
-#include "TestComponents.h"
-#include "engine/audio/NullSink.h"
-#include "engine/audio/SoundProcessor.h"
 #include "engine/data/SqliteDataControl.h"
-#include "engine/player/Mp3Play.h"
 #include "fixtures/Mp3Fixtures.h"
-#include "fixtures/ThreadedTestLoop.h"
+#include "fixtures/PlayerHarness.h"
+#include "fixtures/RealPlayerProgram.h"
 #include "fixtures/ToolRunner.h"
-#include "shell/Program.h"
 
 using namespace sonarium;
 using namespace sonarium::fixtures;
@@ -51,14 +47,8 @@ QStringList makeTree(const QString& root, int files) {
     recipe.channels = 1;
     recipe.kbps = 32;
     recipe.seconds = 1.0;
-    recipe.id3v1 = true;
-    const QString base = root + QStringLiteral("/base.bin");
-    if (!makeMp3(base, recipe)) return {};
-    QFile in(base);
-    in.open(QIODevice::ReadOnly);
-    const QByteArray audio = in.readAll().chopped(128);
-    in.close();
-    QFile::remove(base);
+    const QByteArray audio = untaggedMp3(root + QStringLiteral("/base.bin"), recipe);
+    if (audio.isEmpty()) return {};
     QStringList made;
     for (int i = 0; i < files; ++i) {
         const QString sub = QStringLiteral("%1/Artist %2/Album %3")
@@ -78,10 +68,9 @@ QStringList makeTree(const QString& root, int files) {
 }
 
 // What the scan reads of each file, without the walk and the library.
-double bareLoop(EventLoop& loop, const QStringList& files) {
-    ToneSettings tone;
-    PeakLevel level;
-    Mp3Play mp3(loop, [] { return std::make_unique<NullSink>(); }, tone, level);
+double bareLoop(const QStringList& files) {
+    PlayerHarness harness;
+    Mp3Play& mp3 = harness.player;
     qint64 sink = 0;
     const double ms = timeMs([&] {
         for (const QString& f : files) {
@@ -101,40 +90,23 @@ double bareLoop(EventLoop& loop, const QStringList& files) {
 double scan(const QString& root, const QString& home, QString& message) {
     const QString before = QDir::currentPath();
     QDir::setCurrent(home);
-    ThreadedTestLoop loop{std::chrono::minutes(30)};
-    ScriptedDialogs dialogs;
-    dialogs.setAutoAnswerOk(true);
-    FakeDesktop desktop;
-    FakePictureLoader pictures;
+    RealPlayerProgram<SqliteDataControl> parts{std::chrono::minutes(30)};
+    parts.dialogs.setAutoAnswerOk(true);
     // The tree is a drive of its own, as a music disk would be: the walk starts at its top,
     // which is the drive's current directory.
-    FakeVolumes volumes;
-    volumes.add(QStringLiteral("/"));
-    volumes.add(root, QStringLiteral("Music"));
-    ToneSettings tone;
-    PeakLevel level;
-    Mp3Play mp3(loop, [] { return std::make_unique<NullSink>(); }, tone, level);
-    FakePlayer mp32{loop};
-    FakeEncoder encoder{loop};
-    FakeCdReader cd{loop};
-    FakeMixer mixer;
-    FakePeakMeter peak;
-    SqliteDataControl data;
-    FakeProcesses processes{loop};
-    Components c{loop, dialogs, desktop, pictures, volumes, mp3, mp32, encoder, cd, mixer, peak, data, processes,
-                 QString(), home};
-    Program program(c);
-    program.Main();
+    parts.volumes.add(root, QStringLiteral("Music"));
+    Program& program = parts.start(home);
     program.form1.Form_Activate();
     FrmGeneral& g = program.frmGeneral;
-    loop.post([&] {
+    parts.loop.post([&] {
         g.Activate();
         g.Drive1.setDrive(root);
         g.chkSubs.setValue(1);
         g.cmdOK.Click();
     });
     const double ms = timeMs([&] { program.form1.cmdSearch.Click(); });
-    message = dialogs.texts().value(0);
+    message = parts.dialogs.texts().value(0);
+    parts.program.reset();
     QDir::setCurrent(before);
     return ms;
 }
@@ -159,11 +131,10 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "could not make the files\n");
         return 1;
     }
-    ThreadedTestLoop loop;
-    const double bare1 = bareLoop(loop, files);
+    const double bare1 = bareLoop(files);
     QString message;
     const double scanned = scan(root, home.path(), message);
-    const double bare2 = bareLoop(loop, files);
+    const double bare2 = bareLoop(files);
     const double id3v2 = tool(files);
     const double bare = std::min(bare1, bare2);
     std::printf("files            %d (%s)\n", count, qPrintable(message));

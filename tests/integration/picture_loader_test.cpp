@@ -10,6 +10,7 @@
 #include "QtPrinters.h"
 #include "controls/Errors.h"
 #include "engine/QtPictureLoader.h"
+#include "fixtures/Files.h"
 
 namespace sonarium {
 namespace {
@@ -34,9 +35,7 @@ class PictureLoaderTest : public ::testing::Test {
 protected:
     QString path(const QString& name) const { return dir.filePath(name); }
     void writeBytes(const QString& name, const QByteArray& bytes) {
-        QFile f(path(name));
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write(bytes);
+        ASSERT_TRUE(fixtures::writeFile(path(name), bytes));
     }
     // The error number and text of a load that must fail.
     std::pair<int, QString> failure(const QString& file) {
@@ -120,14 +119,8 @@ TEST_F(PictureLoaderTest, MissingFilesAndNonPicturesFailWithTheirOwnNumbers) {
     EXPECT_EQ(failure(path("empty.bmp")).first, RuntimeError::InvalidPicture);
 
     // A bitmap cut short after its headers.
-    QByteArray bmp;
-    {
-        ASSERT_TRUE(sample().save(path("whole.bmp"), "BMP"));
-        QFile f(path("whole.bmp"));
-        ASSERT_TRUE(f.open(QIODevice::ReadOnly));
-        bmp = f.readAll().left(60);
-    }
-    writeBytes("cut.bmp", bmp);
+    ASSERT_TRUE(sample().save(path("whole.bmp"), "BMP"));
+    writeBytes("cut.bmp", fixtures::fileBytes(path("whole.bmp")).left(60));
     EXPECT_EQ(failure(path("cut.bmp")).first, RuntimeError::InvalidPicture);
 }
 

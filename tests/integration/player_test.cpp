@@ -14,6 +14,7 @@
 #include <numeric>
 #include <random>
 
+#include "fixtures/Files.h"
 #include "fixtures/Mp3Fixtures.h"
 #include "fixtures/PlayerHarness.h"
 #include "fixtures/ToolRunner.h"
@@ -40,17 +41,6 @@ struct PlayerFiles {
 
 constexpr const char* kCbr = "cbr128_44k_joint";  // 2 s, no Info frame: frame f is samples f*1152..
 constexpr int kSamplesPerFrame = 1152;            // MPEG-1 layer III
-
-QByteArray fileBytes(const QString& path) {
-    QFile f(path);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
-void writeBytes(const QString& path, const QByteArray& bytes) {
-    QFile f(path);
-    ASSERT_TRUE(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    f.write(bytes);
-}
 
 std::vector<int> range(int first, int last, int step = 1) {
     std::vector<int> v;
@@ -219,7 +209,7 @@ TEST_F(PlayerWavTest, SeekBeforePlayStopMidwayAndFileNames) {
     h.clear();
     QDir dir(out.path());
     QFile::copy(mp3, out.filePath("Song.mp3"));
-    writeBytes(out.filePath("old.wav"), "stale");
+    ASSERT_TRUE(writeFile(out.filePath("old.wav"), "stale"));
     decodeWithPlayer(h, out.filePath("SONG.MP3"), out.filePath("New Name.WAV"));
     decodeWithPlayer(h, out.filePath("song.Mp3"), out.filePath("OLD.WAV"));
     EXPECT_TRUE(dir.entryList(QDir::Files).contains("New Name.WAV"));
@@ -238,6 +228,13 @@ TEST_F(PlayerWavTest, SeekBeforePlayStopMidwayAndFileNames) {
 
 class PlayerRunTest : public ::testing::Test {
 protected:
+    // A fresh run of the file, under way.
+    void startRun() {
+        h.clear();
+        ASSERT_EQ(h.player.Open(mp3, ""), 0);
+        h.player.Play();
+        h.waitForFrame(1);
+    }
     QString mp3 = PlayerFiles::mp3(kCbr);
     PlayerHarness h;
 };
@@ -246,9 +243,7 @@ TEST_F(PlayerRunTest, EveryStartedRunEndsWithExactlyOneStreamEnd) {
     h.player.setNotifyInterval(1);
 
     // Stopped while playing: one StreamEnd, after Stop has returned; no frame after it.
-    ASSERT_EQ(h.player.Open(mp3, ""), 0);
-    h.player.Play();
-    h.waitForFrame(1);
+    startRun();
     h.player.Stop();
     h.player.Stop();  // the same run: nothing more
     h.waitForEnds();
@@ -257,10 +252,7 @@ TEST_F(PlayerRunTest, EveryStartedRunEndsWithExactlyOneStreamEnd) {
     EXPECT_EQ(h.events.last(), "end");
 
     // Stopped while paused.
-    h.clear();
-    ASSERT_EQ(h.player.Open(mp3, ""), 0);
-    h.player.Play();
-    h.waitForFrame(1);
+    startRun();
     h.player.Pause();
     h.player.Stop();
     h.waitForEnds();
@@ -270,10 +262,7 @@ TEST_F(PlayerRunTest, EveryStartedRunEndsWithExactlyOneStreamEnd) {
     // Ended by Close, or by the Open of another file: no StreamEnd and no more of its frames;
     // the next Stop pays the end that run is owed, so a transport waiting on it goes on.
     for (bool reopen : {false, true}) {
-        h.clear();
-        ASSERT_EQ(h.player.Open(mp3, ""), 0);
-        h.player.Play();
-        h.waitForFrame(1);
+        startRun();
         if (reopen)
             ASSERT_EQ(h.player.Open(PlayerFiles::mp3("vbr_44k_joint"), ""), 0);
         else
@@ -451,7 +440,7 @@ TEST(PlayerBadInputTest, NeverCrashesHangsOrChangesTheFile) {
         SCOPED_TRACE(c.name);
         const QString path = dir.filePath(QString(c.name) + ".mp3");
         const QByteArray bytes = c.bytes(good);
-        writeBytes(path, bytes);
+        ASSERT_TRUE(writeFile(path, bytes));
         PlayerHarness h;
         const int result = h.player.Open(path, dir.filePath("out.wav"));
         if (c.opens != BadFile::Either) {

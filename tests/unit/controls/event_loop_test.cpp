@@ -121,58 +121,6 @@ TEST_F(EventLoopTest, StopTimerInsideItsOwnHandlerAndBeforeItsTurnInAPass) {
     EXPECT_EQ(loop.pendingCount(), 0);
 }
 
-// A click on Play while a song plays stops it and waits for the stop to finish; the player
-// reports the end of the stream, and that handler starts the next song inside the wait.
-struct Jukebox {
-    VirtualEventLoop& loop;
-    bool playing = true;
-    bool stopping = false;
-    int songsStarted = 0;
-
-    void play(const QString& why) {
-        TraceScope scope(loop, "Play " + why);
-        if (playing) {
-            stop();
-            loop.waitUntil([this] { return !stopping; });
-        }
-        if (!playing) {
-            playing = true;
-            ++songsStarted;
-        }
-    }
-    void stop() {
-        TraceScope scope(loop, "Stop");
-        stopping = true;
-        // The player needs a moment to close its stream before it reports the end.
-        loop.startTimer(50, [this] { streamEnd(); }, true);
-    }
-    void streamEnd() {
-        TraceScope scope(loop, "StreamEnd");
-        playing = false;
-        stopping = false;
-        play("next");
-    }
-};
-
-TEST_F(EventLoopTest, NestedWaitTracesStopStreamEndAndNextPlay) {
-    Jukebox jukebox{loop};
-    loop.enableTrace(true);
-    loop.post([&] { jukebox.play("click"); });
-    loop.runUntilIdle();
-
-    EXPECT_EQ(loop.trace(), QStringList({"enter Play click",
-                                         "  enter Stop",
-                                         "  exit Stop",
-                                         "  enter StreamEnd",
-                                         "    enter Play next",
-                                         "    exit Play next",
-                                         "  exit StreamEnd",
-                                         "exit Play click"}));
-    EXPECT_EQ(jukebox.songsStarted, 1);  // the outer Play sees the song the nested one started
-    EXPECT_EQ(loop.now(), 50);           // the wait moved the clock to the stream's end
-    EXPECT_EQ(loop.depth(), 0);
-}
-
 TEST_F(EventLoopTest, WaitsThatCannotProgressThrowInsteadOfHanging) {
     auto expectStuck = [](const std::function<void()>& f) {
         try {

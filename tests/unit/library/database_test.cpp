@@ -1,6 +1,7 @@
 // The database's making and choosing: the schema of a new library, the overwrite question, a
 // file that is no library, and the panel toggle.
 #include "LibraryFixture.h"
+#include "integration/fixtures/LibraryStatements.h"
 
 using namespace sonarium;
 
@@ -12,13 +13,11 @@ TEST_F(Database, TheFirstStartMakesTheDefaultLibraryWithItsSeventeenColumns) {
     ASSERT_TRUE(QFile::exists(path("SonariumData.mdb")));
     EXPECT_EQ(M().DatabasePath, path("SonariumData.mdb"));
     Recordset& r = data.recordset();
-    ASSERT_EQ(r.FieldCount(), 17);
-    const QStringList names = {"Path", "File", "Song Title", "Artist", "Album", "Comment", "Genre", "Duration", "Year",
-                               "Tempo", "Lyricist", "Composer", "Key", "Web Address", "E-Mail", "Info", "Path\\File"};
-    const int sizes[] = {80, 50, 30, 30, 30, 30, 30, 8, 4, 30, 30, 30, 20, 40, 30, 0, 100};
-    for (int i = 0; i < 17; ++i) {
-        EXPECT_EQ(r.Fields(i).Name(), names[i]);
-        EXPECT_EQ(r.Fields(i).Size(), sizes[i]) << names[i].toStdString();
+    const auto& columns = fixtures::libraryColumns();
+    ASSERT_EQ(r.FieldCount(), int(columns.size()));
+    for (int i = 0; i < r.FieldCount(); ++i) {
+        EXPECT_EQ(r.Fields(i).Name(), columns[i].first);
+        EXPECT_EQ(r.Fields(i).Size(), columns[i].second) << columns[i].first.toStdString();
     }
     EXPECT_EQ(form1().lblRecords.Caption(), "0");
 }

@@ -4,6 +4,7 @@
 #include <QDir>
 
 #include "PlaybackFixture.h"
+#include "integration/fixtures/Id3v1Block.h"
 #include "playback/SongNames.h"
 
 using namespace sonarium;
@@ -19,12 +20,9 @@ protected:
         queue({title}, dirPath);
         return dirPath + title + ".MP3";
     }
-    static QByteArray field(const QByteArray& text, int width) {
-        return text.leftJustified(width, ' ', true);
-    }
+    // A tag padded with blanks, as other tools write it.
     static QByteArray tag(const QByteArray& title, const QByteArray& comment, unsigned char genre) {
-        return "TAG" + field(title, 30) + field("Artist", 30) + field("Album", 30) + "1999" +
-               field(comment, 30) + char(genre);
+        return fixtures::id3v1Block(title, "Artist", "Album", "1999", comment, genre, ' ');
     }
     bool load(int row) {
         std::int16_t r = std::int16_t(row);
@@ -201,7 +199,7 @@ INSTANTIATE_TEST_SUITE_P(
                     SizeCase{300, 128, 3465, 3465, 0, false},   // any other width: the chosen one
                     SizeCase{300, 128, 1920, 1920, 772, true}, SizeCase{100, 100, 3645, 3645, -90, false}));
 
-TEST_F(SongLoading, FolderNamesComeFromTheLastDirectoryOfThePath) {
+TEST(SongNames, FolderNamesComeFromTheLastDirectoryOfThePath) {
     EXPECT_EQ(folderName("/music/Blues/"), "Blues");
     EXPECT_EQ(folderName("Blues/"), "Blues");
     EXPECT_EQ(folderName("/"), "");
@@ -211,16 +209,16 @@ TEST_F(SongLoading, FolderNamesComeFromTheLastDirectoryOfThePath) {
 
 TEST_F(SongLoading, TheRunningTimeCountsFromTheSelectedRowRoundingAfterEachSong) {
     Form1& f = form1();
-    for (auto [t, len] : {std::pair{"A", 10.4f}, {"B", 20.5f}, {"C", 30.6f}}) {
+    for (auto [t, len] : {std::pair{"A", 10.4f}, {"B", 20.5f}, {"C", 3630.6f}}) {
         f.lstSongs.AddItem(t);
         tc.mp3.addFile(QString("/m/") + t + ".MP3", 100, len);
     }
     for (int i = 0; i < 3; ++i) M().SongPath[std::size_t(i)] = "/m/";
     f.GetTotTime();
-    EXPECT_EQ(f.lblTotTime.Caption(), "00:01:01") << "10, then 30.5 -> 30, then 60.6 -> 61";
+    EXPECT_EQ(f.lblTotTime.Caption(), "01:01:01") << "10, then 30.5 -> 30, then 3660.6 -> 3661";
     M().CurrentSong = 0;
     f.lstSongs.setListIndex(1);  // the click runs it too
-    EXPECT_EQ(f.lblTotTime.Caption(), "00:00:51") << "20.5 -> 20, then 50.6 -> 51";
+    EXPECT_EQ(f.lblTotTime.Caption(), "01:00:51") << "20.5 -> 20, then 3650.6 -> 3651";
     EXPECT_EQ(tc.mp3.openFile(), "/m/B.MP3");
 
     M().CurrentSong = 0;

@@ -241,6 +241,7 @@ TEST_F(Transport, ClosingWhilePausedWaitsUntilTheSongIsResumedAndEnds) {
     EXPECT_FALSE(savedWhilePaused);
     EXPECT_TRUE(QFile::exists(path("Config.dat")));
     EXPECT_GE(tc.loop.now(), 5000 + SongMs);
+    EXPECT_EQ(tc.desktop.quitCode(), 0);
 }
 
 TEST_F(Transport, TheLoopPopupSetsTheModeAndStopAfterSongToggles) {

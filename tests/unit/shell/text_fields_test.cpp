@@ -2,7 +2,7 @@
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
 
-#include "controls/Errors.h"
+#include "integration/fixtures/ErrorNumber.h"
 #include "shell/TextFields.h"
 
 using namespace sonarium;
@@ -58,12 +58,7 @@ TEST(TextFieldReader, NumbersFollowTheLeadingNumberRule) {
     EXPECT_EQ(r.readNumber(), 0);    // empty line
     EXPECT_EQ(r.readInt16(), 2);     // 1.5 rounds to the even 2
     EXPECT_EQ(r.readInt16(), 2);     // 2.5 too
-    try {
-        r.readInt16();
-        FAIL() << "99999 fits no 16-bit field";
-    } catch (const RuntimeError& e) {
-        EXPECT_EQ(e.number(), RuntimeError::Overflow);
-    }
+    EXPECT_EQ(errorOf([&] { r.readInt16(); }), RuntimeError::Overflow) << "99999 fits no 16-bit field";
 }
 
 TEST(TextFieldRoundTrip, ACommaInAStoredStringShiftsEveryLaterField) {

@@ -255,6 +255,13 @@ void Form1::design() {
     place(cmdCurrentSongInfo, &InfoPanel, 200, 241, 78, 17);
     place(cmdPrint, &InfoPanel, 282, 241, 41, 17);
     place(cmdCloseInfoViewer, &InfoPanel, 550, 241, 78, 17);
+    hint(cmdInfoLeft, "Previous page");
+    hint(cmdInfoRight, "Next page");
+    hint(btnGigGuide, "Gig guide");
+    hint(btnContact, "Contact");
+    hint(cmdCurrentSongInfo, "Current song's page");
+    hint(cmdPrint, "Print");
+    hint(cmdCloseInfoViewer, "Close info");
     place(PanelAlarm, nullptr, 200, 60, 240, 200);
     PanelAlarm.setVisible(false);
     place(lblAlarmHeading, &PanelAlarm, 8, 6, 224, 18);

@@ -5,6 +5,8 @@
 
 #include <random>
 
+#include <unistd.h>
+
 #include "LibraryFixture.h"
 #include "library/KnownPaths.h"
 #include "shell/FrmGeneral.h"
@@ -144,13 +146,19 @@ TEST_F(Scanner, NamesTooLongForTheirColumnsAndFilesThePlayerCannotOpen) {
 }
 
 // A link back up the tree is followed once, and the walk ends.
-TEST_F(Scanner, ALinkBackUpTheTreeIsNotWalkedAgain) {
+// A directory that can't be read is entered and has nothing in it (root reads it anyway).
+TEST_F(Scanner, ALinkBackUpTheTreeIsNotWalkedAgainAndALockedDirectoryIsPassedOver) {
     song("A/a.MP3");
     song("r.MP3");
+    song("A/locked/hidden.MP3");
     ASSERT_TRUE(QFile::link(dir.path(), path("A/up")));
+    ASSERT_TRUE(QFile::setPermissions(path("A/locked"), QFileDevice::Permissions()));
     scan(dir.path(), true);
-    EXPECT_EQ(opened(), QStringList({"A/up/r.MP3", "A/a.MP3", "r.MP3"}));
-    EXPECT_EQ(tc.dialogs.texts(), QStringList({"3 new titles found"}));
+    QFile::setPermissions(path("A/locked"), QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    QStringList expected = {"A/up/r.MP3", "A/a.MP3", "r.MP3"};
+    if (::geteuid() == 0) expected.insert(1, "A/locked/hidden.MP3");
+    EXPECT_EQ(opened(), expected);
+    EXPECT_EQ(tc.dialogs.texts(), QStringList({QString::number(expected.size()) + " new titles found"}));
     EXPECT_EQ(form1().Dir1.Path(), dir.path());
 }
 

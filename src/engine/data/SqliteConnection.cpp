@@ -115,6 +115,10 @@ std::shared_ptr<SqliteConnection> SqliteConnection::create(const QString& file) 
     std::shared_ptr<SqliteConnection> c(new SqliteConnection(db, path, file, false));
     if (rc != SQLITE_OK) c->raise(rc, {});
     c->configure();
+    // The library is written a record or a directory at a time, and each record touches a page
+    // of every one of its sixteen indexes; small pages make each commit write a quarter as
+    // much. Reading 100,000 records stays far inside its time at this size.
+    c->execute(QStringLiteral("PRAGMA page_size=1024"));
     return c;
 }
 

@@ -26,6 +26,7 @@
 #include <random>
 
 #include "engine/data/SqliteDataControl.h"
+#include "BenchClock.h"
 #include "fixtures/LibraryStatements.h"
 #include "fixtures/ToolRunner.h"
 
@@ -33,13 +34,7 @@ using namespace sonarium;
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
-
-double timeMs(const std::function<void()>& work) {
-    const auto t0 = Clock::now();
-    work();
-    return std::chrono::duration<double, std::milli>(Clock::now() - t0).count();
-}
+using bench::timeMs;
 
 // Names of a plausible library: a few thousand artists, some with accents, some with "abc".
 QString name(std::mt19937& rng, int syllables) {

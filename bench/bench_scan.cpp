@@ -23,6 +23,7 @@
 #include <memory>
 
 #include "engine/data/SqliteDataControl.h"
+#include "BenchClock.h"
 #include "fixtures/Mp3Fixtures.h"
 #include "fixtures/PlayerHarness.h"
 #include "fixtures/RealPlayerProgram.h"
@@ -33,13 +34,7 @@ using namespace sonarium::fixtures;
 
 namespace {
 
-using Clock = std::chrono::steady_clock;
-
-double timeMs(const std::function<void()>& work) {
-    const auto t0 = Clock::now();
-    work();
-    return std::chrono::duration<double, std::milli>(Clock::now() - t0).count();
-}
+using bench::timeMs;
 
 QStringList makeTree(const QString& root, int files) {
     Mp3Recipe recipe;

@@ -1,8 +1,7 @@
 // The library panel in the real window over a real library. A few hundred records: opened from
-// its button, ordered by artist with a column button, filtered on an album through the column
-// menu, a cell typed into. And a user's evening: a folder scanned, ordered, filtered, its songs
-// queued by Auto-Queue criteria, the queue saved as a song set and loaded back. Screenshots of
-// each stage.
+// its button, a far row picked, a cell typed into. And a user's evening: a folder scanned,
+// ordered, filtered, its songs queued by Auto-Queue criteria, the queue saved as a song set and
+// loaded back. Screenshots of each stage.
 #include <QAbstractEventDispatcher>
 #include <QHeaderView>
 #include <QListWidget>
@@ -92,7 +91,7 @@ protected:
     SqliteDataControl data;
 };
 
-TEST_F(LibraryWindowTest, OpenOrderFilterAndTypeInTheGrid) {
+TEST_F(LibraryWindowTest, AFullLibraryOpensWithItsButtonsOverTheHeadingsAndTakesTyping) {
     Form1& f = form1();
     fill(300);
     f.imgButon[1].Click();
@@ -110,24 +109,9 @@ TEST_F(LibraryWindowTest, OpenOrderFilterAndTypeInTheGrid) {
               grid.viewport()->mapTo(&main(), QPoint(grid.columnViewportPosition(3), 0)).x());
     saveScreenshot(main(), "library.png");
 
-    press("imgButon(3)");
-    EXPECT_EQ(data.RecordSource(), "Select * From SongData Order By [Artist]");
-    EXPECT_EQ(f.lblOrder.Caption(), "Artist");
-    EXPECT_EQ(cell(0, 3), "Aurora Fields");
-    EXPECT_EQ(cell(299, 3), "The Harbour Band");
-
-    clickCell(40, 4);
-    EXPECT_EQ(data.recordset().AbsolutePosition(), 40);
-    const QString album = cell(40, 4);
-    tc.dialogs.answerPopup("mnuFilter");
-    press("imgDown(4)");
-    EXPECT_EQ(f.lblFilter.Caption(), "Album - " + album);
-    const int matching = f.lblRecords.Caption().toInt();
-    EXPECT_GT(matching, 0);
-    EXPECT_LT(matching, 300);
-    ASSERT_EQ(grid.model()->rowCount(), matching);
-    for (int row = 0; row < matching; ++row) ASSERT_EQ(cell(row, 4), album) << row;
-    EXPECT_LE(cell(0, 3), cell(matching - 1, 3)) << "still in artist order";
+    // The view is lazy: a jump far down lands on the right record.
+    clickCell(240, 4);
+    EXPECT_EQ(data.recordset().AbsolutePosition(), 240);
 
     // Typing into a Tempo cell goes through the program's key rules and into the record.
     clickCell(1, 9);
@@ -138,7 +122,7 @@ TEST_F(LibraryWindowTest, OpenOrderFilterAndTypeInTheGrid) {
     EXPECT_EQ(cell(1, 9), "Fa");
     EXPECT_EQ(data.recordset().Fields(9).Value().toString(), "Fa");
     clickCell(2, 0);
-    saveScreenshot(main(), "library-filtered.png");
+    saveScreenshot(main(), "library-typed.png");
 }
 
 TEST_F(LibraryWindowTest, ScanOrderFilterAutoQueueAndASongSet) {

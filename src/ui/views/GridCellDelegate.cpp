@@ -8,6 +8,7 @@
 #include "ui/views/ControlSync.h"
 #include "ui/views/HiFiLook.h"
 #include "ui/views/TextBoxView.h"
+#include "ui/views/TypedText.h"
 
 namespace sonarium {
 
@@ -47,18 +48,10 @@ void GridCellEditor::typeInside(int keyAscii) {
         if (grid_.onKeyPress) grid_.onKeyPress(keyAscii);
     });
     if (!self || keyAscii == 0) return;
-    QString t = text();
-    int from = hasSelectedText() ? selectionStart() : cursorPosition();
-    const int length = hasSelectedText() ? int(selectedText().size()) : 0;
-    t.remove(from, length);
-    if (keyAscii == 8) {
-        if (length == 0 && from > 0) t.remove(--from, 1);
-    } else {
-        t.insert(from++, QChar(keyAscii));
-    }
-    setText(t);
-    setCursorPosition(from);
-    feed([&] { grid_.setEditText(t); });
+    const TypedText typed = typeInto(*this, keyAscii);
+    setText(typed.text);
+    setCursorPosition(typed.cursor);
+    feed([&] { grid_.setEditText(typed.text); });
 }
 
 GridCellDelegate::GridCellDelegate(DataGrid& grid, QObject* parent) : QStyledItemDelegate(parent), grid_(grid) {}

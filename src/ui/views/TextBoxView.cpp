@@ -2,6 +2,8 @@
 
 #include <QKeyEvent>
 
+#include "ui/views/TypedText.h"
+
 namespace sonarium {
 
 int typedKeyAscii(const QKeyEvent& e) {
@@ -51,17 +53,9 @@ void TextBoxView::typeInside(int keyAscii) {
         if (box_.onKeyPress) box_.onKeyPress(keyAscii);
     });
     if (keyAscii == 0 || box_.Locked()) return;
-    QString t = text();
-    int from = hasSelectedText() ? selectionStart() : cursorPosition();
-    const int length = hasSelectedText() ? int(selectedText().size()) : 0;
-    t.remove(from, length);
-    if (keyAscii == 8) {
-        if (length == 0 && from > 0) t.remove(--from, 1);
-    } else if (box_.MaxLength() == 0 || t.size() < box_.MaxLength()) {
-        t.insert(from++, QChar(keyAscii));
-    }
-    feed([&] { box_.setText(t); });
-    setCursorPosition(std::min(from, int(text().size())));
+    const TypedText typed = typeInto(*this, keyAscii, box_.MaxLength());
+    feed([&] { box_.setText(typed.text); });
+    setCursorPosition(std::min(typed.cursor, int(text().size())));
 }
 
 void TextBoxView::focusOutEvent(QFocusEvent* e) {

@@ -115,11 +115,13 @@ std::shared_ptr<SqliteConnection> SqliteConnection::open(const QString& file) {
     } catch (const RuntimeError&) {
         // A file left on its write-ahead log (by a copy of the program that closed while
         // another had it open, or copied alone) can't be read where the log's index can't be
-        // made beside it: a read-only medium. With no log there the file holds every commit
-        // and nobody can change it, so it is read as it stands. A log that is there but can't
-        // be read is not passed over: that would hide its last commits without a word.
+        // made beside it: a read-only medium or folder (SQLite says it can't open the file, or
+        // that it is read-only). With no log there the file holds every commit, so it is read
+        // as it stands. A log that is there but can't be read is not passed over: that would
+        // hide its last commits without a word.
         const QFileInfo log(path + QStringLiteral("-wal"));
-        if (writable || sqlite3_errcode(c->db_) != SQLITE_CANTOPEN || log.size() > 0) throw;
+        const int rc = sqlite3_errcode(c->db_) & 0xFF;
+        if (writable || (rc != SQLITE_CANTOPEN && rc != SQLITE_READONLY) || log.size() > 0) throw;
         c = connect(QUrl::fromLocalFile(path).toEncoded() + "?immutable=1",
                     SQLITE_OPEN_READONLY | SQLITE_OPEN_URI, path, file, true);
         c->execute(firstRead);

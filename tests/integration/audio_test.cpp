@@ -1,6 +1,7 @@
 // The output path on generated signals: the tone shelves' response measured through the real
 // processor at two rates, the limiter at full boost, the volume curve, the per-tick peak, the
-// null sink's real-time pace, the choice of sink, and the mixer and peak meter components.
+// speed stage's tempo and its ends, the null sink's real-time pace, the choice of sink, and the
+// mixer and peak meter components.
 #include <gtest/gtest.h>
 #include <unistd.h>
 
@@ -23,6 +24,7 @@
 #include "engine/audio/NullSink.h"
 #include "engine/audio/PulseSink.h"
 #include "engine/audio/SoundProcessor.h"
+#include "engine/player/SpeedStage.h"
 
 namespace sonarium {
 namespace {
@@ -201,6 +203,30 @@ TEST(Peak, EachReadingIsTheMaximumSinceTheLastOneInFullScaleUnits) {
         });
     for (auto& th : players) th.join();
     EXPECT_EQ(peak.takeReading(), std::lround(0.399f * 32768));
+}
+
+// What the speed stage makes of 2 s of sine at one speed value, fed as the player feeds it.
+std::vector<float> atSpeed(int speed) {
+    const auto in = sine(440, 0.5, 44100, 2);
+    SpeedStage stage(44100, 2);
+    std::vector<float> out;
+    for (int at = 0; at < 88200; at += kBlock) {
+        stage.setSpeed(speed);
+        stage.process(in.data() + 2L * at, kBlock, out);
+    }
+    stage.finish(out);
+    return out;
+}
+
+TEST(SpeedStage, TempoFollowsTheSpeedAndHoldsAtTheEndsWhateverTheValue) {
+    EXPECT_TRUE(atSpeed(100) == sine(440, 0.5, 44100, 2)) << "normal speed passes samples untouched";
+    const auto fastest = atSpeed(50), slowest = atSpeed(200);
+    EXPECT_NEAR(double(fastest.size()), 88200.0, 88200 * 0.02) << "twice as fast";
+    EXPECT_NEAR(double(slowest.size()), 352800.0, 352800 * 0.02) << "half as fast";
+    EXPECT_NEAR(double(atSpeed(80).size()), 176400 / 1.25, 176400 * 0.02);
+    // Past the ends (the buttons have no limits): the extreme tempo, never normal speed.
+    for (int speed : {45, 5, 0, -10, -32768}) EXPECT_TRUE(atSpeed(speed) == fastest) << speed;
+    for (int speed : {205, 400, 32767}) EXPECT_TRUE(atSpeed(speed) == slowest) << speed;
 }
 
 TEST(NullSink, TakesSamplesAtRealTimePaceAndResetDropsWhatIsUnplayed) {

@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QUrl>
 
 #include "controls/FileNames.h"
 #include "engine/data/DataErrors.h"
@@ -82,6 +83,17 @@ SqliteConnection::~SqliteConnection() {
     close();
 }
 
+std::shared_ptr<SqliteConnection> SqliteConnection::connect(const QByteArray& name, int flags,
+                                                            const QString& path, const QString& shownName,
+                                                            bool readOnly) {
+    sqlite3* db = nullptr;
+    const int rc = sqlite3_open_v2(name.constData(), &db, flags, nullptr);
+    std::shared_ptr<SqliteConnection> c(new SqliteConnection(db, path, shownName, readOnly));
+    if (rc != SQLITE_OK) c->raise(rc, {});
+    c->configure();
+    return c;
+}
+
 std::shared_ptr<SqliteConnection> SqliteConnection::open(const QString& file) {
     const QFileInfo info(file.isEmpty() ? QString() : resolveFileName(file));
     if (file.isEmpty() || !info.exists() || info.isDir()) throw dataerrors::fileNotFound(file);
@@ -93,15 +105,27 @@ std::shared_ptr<SqliteConnection> SqliteConnection::open(const QString& file) {
     const bool writable = (info.permissions() & writeBits) &&
                           ::access(encoded(path).constData(), W_OK) == 0 &&
                           ::access(encoded(info.absolutePath()).constData(), W_OK) == 0;
-    sqlite3* db = nullptr;
-    const int rc = sqlite3_open_v2(encoded(path).constData(), &db,
-                                   writable ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READONLY, nullptr);
-    std::shared_ptr<SqliteConnection> c(new SqliteConnection(db, path, file, !writable));
-    if (rc != SQLITE_OK) c->raise(rc, {});
-    c->configure();
+    auto c = connect(encoded(path), writable ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READONLY, path, file,
+                     !writable);
     // The first read of the file: it tells a database from anything else, and a damaged
     // first page from a good one.
-    c->execute(QStringLiteral("SELECT count(*) FROM sqlite_master"));
+    const QString firstRead = QStringLiteral("SELECT count(*) FROM sqlite_master");
+    try {
+        c->execute(firstRead);
+    } catch (const RuntimeError&) {
+        // A file left on its write-ahead log (by a copy of the program that closed while
+        // another had it open, or copied alone) can't be read where the log's index can't be
+        // made beside it: a read-only medium or folder (SQLite says it can't open the file, or
+        // that it is read-only). With no log there the file holds every commit, so it is read
+        // as it stands. A log that is there but can't be read is not passed over: that would
+        // hide its last commits without a word.
+        const QFileInfo log(path + QStringLiteral("-wal"));
+        const int rc = sqlite3_errcode(c->db_) & 0xFF;
+        if (writable || (rc != SQLITE_CANTOPEN && rc != SQLITE_READONLY) || log.size() > 0) throw;
+        c = connect(QUrl::fromLocalFile(path).toEncoded() + "?immutable=1",
+                    SQLITE_OPEN_READONLY | SQLITE_OPEN_URI, path, file, true);
+        c->execute(firstRead);
+    }
     return c;
 }
 
@@ -109,12 +133,7 @@ std::shared_ptr<SqliteConnection> SqliteConnection::create(const QString& file) 
     if (file.isEmpty()) throw dataerrors::cannotOpen(file, QStringLiteral("no file name"));
     if (QFileInfo::exists(resolveFileName(file))) throw dataerrors::alreadyExists(file);
     const QString path = QFileInfo(file).absoluteFilePath();
-    sqlite3* db = nullptr;
-    const int rc =
-        sqlite3_open_v2(encoded(path).constData(), &db, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
-    std::shared_ptr<SqliteConnection> c(new SqliteConnection(db, path, file, false));
-    if (rc != SQLITE_OK) c->raise(rc, {});
-    c->configure();
+    auto c = connect(encoded(path), SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, path, file, false);
     // The library is written a record or a directory at a time, and each record touches a page
     // of every one of its sixteen indexes; small pages make each commit write a quarter as
     // much. Reading 100,000 records stays far inside its time at this size.
@@ -136,13 +155,16 @@ void SqliteConnection::configure() {
 void SqliteConnection::useWriteAheadLog() {
     if (writeAheadLog_ || readOnly_ || !db_) return;
     // Where the log can't be made, the plain journal goes on working, only slower.
-    writeAheadLog_ =
-        sqlite3_exec(db_, "PRAGMA journal_mode=WAL; PRAGMA synchronous=NORMAL", nullptr, nullptr, nullptr) == SQLITE_OK;
+    writeAheadLog_ = sqlite3_exec(db_, "PRAGMA journal_mode=WAL; PRAGMA synchronous=NORMAL", nullptr, nullptr,
+                                  nullptr) == SQLITE_OK;
 }
 
 void SqliteConnection::close() {
     cache_.clear();
-    if (db_ && writeAheadLog_) sqlite3_exec(db_, "PRAGMA journal_mode=DELETE", nullptr, nullptr, nullptr);
+    // The change needs the file to itself: while another copy of the program has it open it
+    // fails at once, and the log stays for that copy, which makes the change when it closes,
+    // even if it only read.
+    if (db_ && !readOnly_) sqlite3_exec(db_, "PRAGMA journal_mode=DELETE", nullptr, nullptr, nullptr);
     writeAheadLog_ = false;
     if (db_) sqlite3_close_v2(db_);
     db_ = nullptr;

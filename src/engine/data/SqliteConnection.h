@@ -1,9 +1,11 @@
 #pragma once
 // One open SQLite database file, shared by the data control's database and record set. It is
-// opened read-only when the file or its folder can't be written, never created by an open,
-// and nothing is written on opening. SQLite's failures come out as the library's numbered
-// errors. Each connection has the dialect's like() and refuses double-quoted literals, so an
-// unknown name is an error instead of a silent string.
+// opened read-only when the file or its folder can't be written (a file left on its
+// write-ahead log too, as long as no log stands beside it), never created by an open, and
+// nothing is written on opening. Other copies of the program may have the file open: SQLite's
+// locks keep it whole, and a write that finds it busy waits two seconds, then fails. SQLite's
+// failures come out as the library's numbered errors. Each connection has the dialect's like()
+// and refuses double-quoted literals, so an unknown name is an error instead of a silent string.
 #include <QString>
 #include <cstdint>
 #include <map>
@@ -39,8 +41,9 @@ public:
     bool isOpen() const { return db_ != nullptr; }
     bool readOnly() const { return readOnly_; }
     // Lets go of the file; every later use fails with "Object invalid or no longer set."
-    // A file that was written through the write-ahead log goes back to its plain journal first,
-    // so that no log is left beside it and any reader, read-only ones too, can open it.
+    // A file that was written through the write-ahead log goes back to its plain journal first
+    // when this is the last connection to it, so that no log is left beside it and any reader,
+    // read-only ones too, can open it.
     void close();
     // Before a run of transactions: commits go to a write-ahead log and don't each wait for the
     // disk, while a crash or power loss still leaves the file whole (it may lose the last
@@ -64,6 +67,9 @@ public:
 
 private:
     SqliteConnection(sqlite3* db, QString path, QString shownName, bool readOnly);
+    // `name` is the file name or URI as SQLite takes it, `path` the absolute file.
+    static std::shared_ptr<SqliteConnection> connect(const QByteArray& name, int flags, const QString& path,
+                                                     const QString& shownName, bool readOnly);
     static std::pair<std::uint64_t, std::uint64_t> identity(const QString& path);
     sqlite3* handle() const;
     void configure();

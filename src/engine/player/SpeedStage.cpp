@@ -11,8 +11,9 @@ SpeedStage::SpeedStage(int rate, int channels) : rate_(rate), channels_(channels
 SpeedStage::~SpeedStage() = default;
 
 double SpeedStage::tempoOf(int speed) {
-    if (speed <= 0) return 1.0;
-    return std::clamp(100.0 / speed, 0.25, 4.0);
+    // A duration of 0 or less is past the fast end, not a stop: no division by it.
+    if (speed <= 100 / kFastest) return kFastest;
+    return std::clamp(100.0 / speed, kSlowest, kFastest);
 }
 
 void SpeedStage::setSpeed(int speed) {

@@ -1,7 +1,10 @@
 #pragma once
 // Playback speed with the pitch kept (SoundTouch's tempo change). The player's speed value is
-// a duration: 100 normal, 50 twice as fast, 200 half as fast. Any value is accepted: 0 or
-// below means normal, and the tempo is held to 0.25..4, what the stretcher does cleanly.
+// a duration: 100 normal, 50 twice as fast, 200 half as fast. Any value is accepted, since the
+// speed buttons count on without limit: the tempo is held to 0.5..2, the range over which
+// SoundTouch tunes its sequence and seek window to the tempo (beyond it they stay fixed and the
+// sound breaks up). So every speed of 50 or less, 0 and below too, plays at the fastest tempo,
+// and every speed of 200 or more at the slowest.
 // At speed 100 samples pass untouched and SoundTouch is not even made. One worker thread.
 #include <memory>
 #include <vector>
@@ -16,6 +19,8 @@ class SpeedStage {
 public:
     SpeedStage(int rate, int channels);
     ~SpeedStage();
+
+    static constexpr double kFastest = 2.0, kSlowest = 0.5;
 
     // The tempo factor that a speed value gives (1 = normal).
     static double tempoOf(int speed);

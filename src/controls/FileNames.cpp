@@ -1,64 +1,117 @@
 #include "controls/FileNames.h"
 
+#include <dirent.h>
 #include <sys/stat.h>
 
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
+#include <cerrno>
+#include <cstring>
+#include <string>
+#include <utility>
+#include <vector>
 
 namespace sonarium {
 namespace {
 
 // Whether a directory entry of that name exists at all: a dangling symlink counts, since it
 // is still there to be deleted or renamed.
-bool entryExists(const QString& path) {
+bool entryExists(const char* path) {
     struct stat st;
-    return ::lstat(QFile::encodeName(path).constData(), &st) == 0;
+    return ::lstat(path, &st) == 0;
 }
 
-// The entry of `dir` whose name equals `name` without regard to case, or "" when none does.
-// Should several differ only in case, the smallest in exact order wins, so the answer does not
-// depend on the order the file system lists them.
-QString findIgnoringCase(const QString& dir, const QString& name) {
+// The entry of directory `dir` (bytes, as the system takes them) whose name equals `name`
+// without regard to case, or "" when none does. Should several differ only in case, the
+// smallest in exact order wins, so the answer does not depend on the order the system lists
+// them.
+QString findIgnoringCase(const std::string& dir, const QString& name) {
     QString best;
-    QDirIterator it(dir.isEmpty() ? QStringLiteral(".") : dir,
-                    QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot);
-    while (it.hasNext()) {
-        it.next();
-        const QString entry = it.fileName();
+    DIR* d = ::opendir(dir.empty() ? "." : dir.c_str());
+    if (!d) return best;
+    while (const dirent* e = ::readdir(d)) {
+        if (std::strcmp(e->d_name, ".") == 0 || std::strcmp(e->d_name, "..") == 0) continue;
+        const QString entry = QFile::decodeName(e->d_name);
         if (QString::compare(entry, name, Qt::CaseInsensitive) == 0 && (best.isEmpty() || entry < best))
             best = entry;
     }
+    ::closedir(d);
     return best;
 }
 
 }  // namespace
 
+// Iterative and linear in the path's length: a hand-made name of tens of thousands of
+// components must fail as a missing file, not exhaust the stack. The system's own limits
+// answer first: a name longer than it allows, or one that loops, is simply missing.
 QString resolveFileName(const QString& path) {
-    if (path.isEmpty() || entryExists(path)) return path;
+    if (path.isEmpty()) return path;
+    const QByteArray given = QFile::encodeName(path);
+    if (entryExists(given.constData())) return path;
+    if (errno == ENAMETOOLONG || errno == ELOOP) return path;
 
-    // Trailing slashes belong to no component: resolve what is before them.
-    int end = int(path.size());
-    while (end > 1 && path[end - 1] == u'/') --end;
-    if (end < path.size()) return resolveFileName(path.left(end)) + path.mid(end);
+    // Trailing slashes belong to no component: resolve what is before them, then put them back.
+    qsizetype end = given.size();
+    while (end > 1 && given[end - 1] == '/') --end;
+    std::string buf(given.constData(), size_t(end));
 
-    const int slash = int(path.lastIndexOf(u'/'));
-    const QString prefix = path.left(slash + 1);  // the directory with its slash(es), or ""
-    const QString name = path.mid(slash + 1);
-
-    QString dir = prefix;
-    while (dir.size() > 1 && dir.endsWith(u'/')) dir.chop(1);
-    const QString resolvedDir = dir.isEmpty() ? dir : resolveFileName(dir);
-    // Keep the caller's text unchanged where the directory already had the right spelling.
-    QString resolvedPrefix = prefix;
-    if (resolvedDir != dir) {
-        resolvedPrefix = resolvedDir.endsWith(u'/') ? resolvedDir : resolvedDir + u'/';
-        if (entryExists(resolvedPrefix + name)) return resolvedPrefix + name;
+    // Components as (first byte, end) in buf; a leading "/" is not one.
+    std::vector<std::pair<size_t, size_t>> parts;
+    for (size_t i = 0; i < buf.size();) {
+        while (i < buf.size() && buf[i] == '/') ++i;
+        const size_t from = i;
+        while (i < buf.size() && buf[i] != '/') ++i;
+        if (i > from) parts.emplace_back(from, i);
     }
-    if (name == u"." || name == u"..") return resolvedPrefix + name;
 
-    const QString found = findIgnoringCase(resolvedDir, name);
-    return resolvedPrefix + (found.isEmpty() ? name : found);
+    // The longest prefix that exists as written, found from the right: usually only the last
+    // name is spelt differently. Each test cuts the one buffer in place.
+    size_t exact = 0;  // parts[0, exact) exist exactly as given
+    for (size_t k = parts.size(); k-- > 1;) {
+        const size_t cut = parts[k - 1].second;
+        const char saved = buf[cut];
+        buf[cut] = '\0';
+        const bool there = entryExists(buf.c_str());
+        buf[cut] = saved;
+        if (there) {
+            exact = k;
+            break;
+        }
+    }
+
+    // From there on each name is looked up without regard to case. The text stays the caller's
+    // until a name is corrected; after that the separators are single slashes.
+    std::string resolved = exact > 0 ? buf.substr(0, parts[exact - 1].second)
+                                     : buf.substr(0, parts.empty() ? buf.size() : parts[0].first);
+    QString out = QFile::decodeName(QByteArray::fromStdString(resolved));
+    bool corrected = false;
+    for (size_t k = exact; k < parts.size(); ++k) {
+        const size_t sepFrom = k == 0 ? parts[0].first : parts[k - 1].second;
+        const std::string sep = corrected ? std::string(sepFrom < parts[k].first ? "/" : "")
+                                          : buf.substr(sepFrom, parts[k].first - sepFrom);
+        const std::string name = buf.substr(parts[k].first, parts[k].second - parts[k].first);
+        const size_t before = resolved.size();
+        resolved += sep;
+        resolved += name;
+        if (name == "." || name == ".." || entryExists(resolved.c_str())) {
+            out += QFile::decodeName(QByteArray::fromStdString(sep + name));
+            continue;
+        }
+        resolved.resize(before);
+        const QString wanted = QFile::decodeName(QByteArray::fromStdString(name));
+        const QString found = findIgnoringCase(resolved, wanted);
+        if (found.isEmpty()) {
+            // Nothing of that name: the rest is a new name, kept as the caller spelt it.
+            out += QFile::decodeName(QByteArray::fromStdString(sep + buf.substr(parts[k].first)));
+            return out + path.mid(path.size() - (given.size() - end));
+        }
+        resolved += sep;
+        resolved += QFile::encodeName(found).toStdString();
+        out += QFile::decodeName(QByteArray::fromStdString(sep)) + found;
+        corrected = corrected || found != wanted;
+    }
+    return out + path.mid(path.size() - (given.size() - end));
 }
 
 bool fileExists(const QString& path) {

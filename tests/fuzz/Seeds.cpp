@@ -79,6 +79,21 @@ std::vector<Seed> seedCorpus() {
     return seeds;
 }
 
+std::vector<Seed> pathSeeds() {
+    std::vector<Seed> seeds;
+    auto text = [](const std::string& s) { return Bytes(s.begin(), s.end()); };
+    seeds.push_back({"empty", {}});
+    seeds.push_back({"case", text("MUSIC/rock/song.mp3")});
+    seeds.push_back({"dots", text("music/../MUSIC//./Rock/")});
+    seeds.push_back({"loops", text("Music/UP/music/up/SELF/x")});
+    seeds.push_back({"new", text("/Music/Nowhere/New.WAV")});
+    // A skin path of 50,000 components, as a hand-edited settings file once held.
+    std::string deep = "music";
+    for (int i = 0; i < 50000; ++i) deep += "/a";
+    seeds.push_back({"deep", text(deep)});
+    return seeds;
+}
+
 Bytes mutate(const Bytes& input, const Bytes& other, std::mt19937& rng) {
     static const char* const kMarkers[] = {
         "TAG", "ID3", "Xing", "Info", "\xFF\xFB\x90\x64", "\xFF\xF3\x80\xC0", "\xFF\xFF\xFF\xFF", "\0\0\0\0"};

@@ -19,6 +19,14 @@ struct Seed {
 // change of format midway),
 // frames after an ID3v2 header, frames with a tag, a lying ID3v2 header, random bytes.
 std::vector<Seed> seedCorpus();
+// File names: case that differs, dots and doubled slashes, a looping symlink, a new name, and
+// a name of 50,000 components.
+std::vector<Seed> pathSeeds();
+
+// The seeds of the target being built (FUZZ_SEEDS names the function; MP3 files by default).
+#ifndef FUZZ_SEEDS
+#define FUZZ_SEEDS seedCorpus
+#endif
 
 // One to four random edits of `input`: bit flips, byte sets, inserts, deletes, copies,
 // truncation, splices with `other`, and markers the parsers look for ("TAG", "ID3", "Xing",

@@ -63,7 +63,7 @@ int main(int argc, char** argv) {
         return 0;
     }
 
-    const std::vector<Seed> seeds = seedCorpus();
+    const std::vector<Seed> seeds = FUZZ_SEEDS();
     for (const Seed& s : seeds) run(s.bytes);
 
     std::mt19937 rng(20240601);

@@ -9,7 +9,7 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "usage: %s DIRECTORY\n", argv[0]);
         return 2;
     }
-    for (const auto& seed : sonarium::fuzz::seedCorpus()) {
+    for (const auto& seed : sonarium::fuzz::FUZZ_SEEDS()) {
         std::ofstream out(std::string(argv[1]) + "/" + seed.name, std::ios::binary | std::ios::trunc);
         out.write(reinterpret_cast<const char*>(seed.bytes.data()), std::streamsize(seed.bytes.size()));
         if (!out) {

@@ -364,6 +364,14 @@ TEST_F(FileBrowser, FileNamesAreFoundWithoutRegardToCase) {
     EXPECT_FALSE(fileExists(a + "/SELF"));
     EXPECT_TRUE(matchFiles(a + "/self", "*.*").isEmpty());
 
+    // A hand-made name longer or deeper than the system holds is a missing file, at once;
+    // one within its limits still resolves the directories that exist.
+    QString deep = a + "/MUSIC/rock";
+    for (int i = 0; i < 50000; ++i) deep += "/a";
+    EXPECT_EQ(resolveFileName(deep), deep);
+    EXPECT_FALSE(fileExists(deep));
+    EXPECT_EQ(resolveFileName(deep.left(3000)), a + "/Music/Rock" + deep.mid(a.size() + 11, 3000 - a.size() - 11));
+
     // Relative names are looked up in the current directory.
     const QString cwd = QDir::currentPath();
     ASSERT_TRUE(QDir::setCurrent(a + "/Music"));

@@ -92,11 +92,7 @@ void DirListBox::readRows() {
     const QStringList names = QDir(path_).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Unsorted);
     rows_.clear();
     for (const QString& n : names) rows_ << childPath(path_, n);
-    std::sort(rows_.begin(), rows_.end(), [](const QString& a, const QString& b) {
-        // Names that differ only in case still get one fixed order.
-        const int c = QString::compare(a, b, Qt::CaseInsensitive);
-        return c != 0 ? c < 0 : a < b;
-    });
+    std::sort(rows_.begin(), rows_.end(), lessIgnoringCase);
 }
 
 void DirListBox::setDriveDirectory(const QString& dir) {

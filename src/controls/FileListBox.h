@@ -1,6 +1,6 @@
 #pragma once
-// The file list: the bare names of the files of `Path` that match `Pattern`, in the order the
-// file system delivers them (the program depends on that order, so it is never sorted).
+// The file list: the bare names of the files of `Path` that match `Pattern`, alphabetically
+// without regard to case, the order the program's lists of files rely on.
 // Patterns match names without regard to case; several are separated by ";".
 #include <QString>
 #include <QStringList>

@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
+#include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <string>
@@ -154,7 +155,6 @@ QStringList matchFiles(const QString& dir, const QString& patterns) {
     if (wanted.isEmpty()) wanted << QStringLiteral("*");
 
     QStringList names;
-    // No sorting: the program relies on the order the file system gives.
     QDirIterator it(dir.isEmpty() ? QStringLiteral(".") : dir, QDir::Files | QDir::NoDotAndDotDot);
     while (it.hasNext()) {
         it.next();
@@ -166,7 +166,14 @@ QStringList matchFiles(const QString& dir, const QString& patterns) {
             }
         }
     }
+    std::sort(names.begin(), names.end(), lessIgnoringCase);
     return names;
+}
+
+bool lessIgnoringCase(const QString& a, const QString& b) {
+    // Names that differ only in case still get one fixed order.
+    const int c = QString::compare(a, b, Qt::CaseInsensitive);
+    return c != 0 ? c < 0 : a < b;
 }
 
 }  // namespace sonarium

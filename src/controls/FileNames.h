@@ -25,8 +25,14 @@ bool dirExists(const QString& path);
 bool wildcardMatch(const QString& pattern, const QString& name);
 
 // The bare names of the visible (non-dot) regular files of `dir` that match `patterns`
-// (several separated by ";"; empty means all), in the order the file system delivers them.
-// A directory that cannot be read gives an empty list.
+// (several separated by ";"; empty means all), alphabetically without regard to case: the
+// program's lists of titles, sets and pages rely on that order, which Linux file systems do
+// not give by themselves. A directory that cannot be read gives an
+// empty list.
 QStringList matchFiles(const QString& dir, const QString& patterns);
+
+// The order of names in file and directory lists: alphabetical without regard to case, names
+// that differ only in case in their exact order.
+bool lessIgnoringCase(const QString& a, const QString& b);
 
 }  // namespace sonarium

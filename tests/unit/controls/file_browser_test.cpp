@@ -1,5 +1,4 @@
 // The drive, directory and file lists over temporary directory trees, with made-up volumes.
-#include <dirent.h>
 #include <gtest/gtest.h>
 #include <sys/stat.h>
 #include <unistd.h>
@@ -256,16 +255,7 @@ TEST_F(FileBrowser, SubdirectoriesAreSortedWithoutRegardToCaseAndReadOneLevel) {
     ::chmod(QFile::encodeName(a + "/locked").constData(), 0755);
 }
 
-// The names readdir gives, in its order: what the file list must keep.
-QStringList readdirOrder(const QString& dir) {
-    QStringList names;
-    DIR* d = ::opendir(QFile::encodeName(dir).constData());
-    while (dirent* e = ::readdir(d)) names << QFile::decodeName(e->d_name);
-    ::closedir(d);
-    return names;
-}
-
-TEST_F(FileBrowser, FileListMatchesPatternsInAnyCaseInFileSystemOrder) {
+TEST_F(FileBrowser, FileListMatchesPatternsInAnyCaseSortedWithoutRegardToCase) {
     const char* names[] = {"song.mp3",  "Track 10.MP3", "b.Mp3",   "zz.mp3", "a.wav", "notes.txt", "README",
                            "x.mp3.bak", ".hidden.mp3",  "m01.mp3", "m2.mp3", "Q.MP3", "c.mP3"};
     for (const char* n : names) touch(QString("A/") + n);
@@ -275,12 +265,8 @@ TEST_F(FileBrowser, FileListMatchesPatternsInAnyCaseInFileSystemOrder) {
     FileListBox files("Fillist");
     EXPECT_EQ(files.Pattern(), "*.MP3");
     files.setPath(a);
-    QStringList expected;
-    for (const QString& n : readdirOrder(a))
-        if (n.endsWith(".mp3", Qt::CaseInsensitive) && !n.startsWith(u'.') && n != "folder.mp3" &&
-            n != "dangling.mp3")
-            expected << n;
-    EXPECT_EQ(expected.size(), 8);
+    const QStringList expected = {"b.Mp3",  "c.mP3",        "m01.mp3", "m2.mp3",
+                                  "Q.MP3", "song.mp3", "Track 10.MP3", "zz.mp3"};
     EXPECT_EQ(rows(files), expected);
 
     files.setPattern("*.wav;*.TXT");

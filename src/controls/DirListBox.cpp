@@ -25,11 +25,8 @@ QString childPath(const QString& dir, const QString& name) {
 
 }  // namespace
 
-DirListBox::DirListBox(QString name, Volumes& volumes)
-    : RowList(std::move(name)), volumes_(volumes), path_(QDir::cleanPath(QDir::currentPath())) {
-    // The process's current directory is its drive's current directory, where choosing that
-    // drive leads.
-    setDriveDirectory(path_);
+DirListBox::DirListBox(QString name, Volumes& volumes, DriveDirectories& drives)
+    : RowList(std::move(name)), volumes_(volumes), drives_(drives), path_(QDir::cleanPath(QDir::currentPath())) {
     readRows();
 }
 
@@ -40,21 +37,22 @@ QString DirListBox::absolute(const QString& path) const {
 void DirListBox::setPath(const QString& path) {
     if (path.isEmpty()) pathNotFound();
     const std::vector<Volume> volumes = volumes_.list();
-    const bool namesDrive =
-        std::any_of(volumes.begin(), volumes.end(), [&](const Volume& v) { return v.root == path; });
+    const auto drive =
+        std::find_if(volumes.begin(), volumes.end(), [&](const Volume& v) { return driveText(v) == path; });
 
     QString target;
-    if (namesDrive) {
-        if (!volumes_.ready(path)) deviceUnavailable();
-        target = driveDirectory(path);
+    if (drive != volumes.end()) {
+        if (!volumes_.ready(drive->root)) deviceUnavailable();
+        target = drives_.of(drive->root);
         // The drive's directory may have been removed since: the drive's root still stands.
-        if (!QFileInfo(target).isDir()) target = path;
+        if (!QFileInfo(target).isDir()) target = drive->root;
     } else {
         target = resolveFileName(absolute(path));
         const QString root = volumeRootOf(volumes, target);
         if (!root.isEmpty() && !volumes_.ready(root)) deviceUnavailable();
     }
     if (!QFileInfo(target).isDir()) pathNotFound();
+    drives_.shown(volumeRootOf(volumes, target), target);
 
     if (target == path_) {
         // The same directory: follow the disk, but nothing changed for the handlers.
@@ -89,21 +87,10 @@ void DirListBox::Refresh() {
 void DirListBox::readRows() {
     // One level only, and the type comes from the directory entry or one stat of it, so a
     // symlink that loops is at worst one entry that is not a directory.
-    const QStringList names = QDir(path_).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Unsorted);
+    const QStringList& names = listing_.read(path_).dirs;
     rows_.clear();
     for (const QString& n : names) rows_ << childPath(path_, n);
     std::sort(rows_.begin(), rows_.end(), lessIgnoringCase);
-}
-
-void DirListBox::setDriveDirectory(const QString& dir) {
-    const QString abs = absolute(dir);
-    const QString root = volumeRootOf(volumes_.list(), abs);
-    if (!root.isEmpty()) driveDirs_[root] = abs;
-}
-
-QString DirListBox::driveDirectory(const QString& root) const {
-    auto it = driveDirs_.find(root);
-    return it != driveDirs_.end() ? it->second : root;
 }
 
 }  // namespace sonarium

@@ -1,25 +1,27 @@
 #pragma once
 // The directory list: `Path` is the directory shown, its subdirectories are the rows.
 //
-// Path has no closing slash except at "/". Setting Path to a drive's text (a volume's mount
-// point exactly as the drive list gives it) moves to that drive's current directory, which
-// each volume keeps for itself: its mount point until setDriveDirectory says otherwise. It does
-// not follow Path: the program's scan sets Path to a drive and relies on landing in the drive's
-// own current directory, not wherever the list was last on that drive.
+// Path has no closing slash except at "/". Setting Path to a drive's text exactly as the drive
+// list gives it (driveText) moves to that drive's current directory (DriveDirectories), which
+// every folder list moves on as it shows a folder. The program's scan sets Path to the drive
+// and relies on landing where the list was last on that drive.
 //
-// Any other text is a directory, relative ones taken from Path, found without regard to case.
+// Any other text is a directory, "/" and mount points included, relative ones taken from
+// Path, found without regard to case.
 // A directory that doesn't exist throws RuntimeError PathNotFound, one on a volume that isn't
 // ready throws DeviceUnavailable; either leaves Path and the rows as they were and raises no
 // change. onChange is raised only when Path really changes.
 //
 // Rows are full paths of the visible (non-dot) subdirectories, sorted without regard to case.
 // Directories the user cannot read are listed all the same. Only one level is ever read, so
-// symlinks that loop cost nothing.
+// symlinks that loop cost nothing, and a directory unchanged since it was last read is not
+// read again (DirectoryListing).
 #include <QString>
 #include <QStringList>
 #include <functional>
-#include <map>
 
+#include "controls/DirectoryListing.h"
+#include "controls/DriveDirectories.h"
 #include "controls/RowList.h"
 #include "controls/Volumes.h"
 
@@ -28,7 +30,7 @@ namespace sonarium {
 class DirListBox : public RowList {
 public:
     // Starts in the process's current directory.
-    DirListBox(QString name, Volumes& volumes);
+    DirListBox(QString name, Volumes& volumes, DriveDirectories& drives);
 
     const QString& Path() const { return path_; }
     void setPath(const QString& path);
@@ -41,12 +43,6 @@ public:
     // Reads the subdirectories of Path again; the highlight goes back to -1.
     void Refresh();
 
-    // The current directory of the drive that holds `dir`, which setting Path to that drive's
-    // text then moves to. A directory on no known volume is ignored.
-    void setDriveDirectory(const QString& dir);
-    // The current directory of the drive whose text is `root`: its mount point unless set.
-    QString driveDirectory(const QString& root) const;
-
     std::function<void()> onChange;
 
 private:
@@ -54,8 +50,9 @@ private:
     void readRows();
 
     Volumes& volumes_;
+    DriveDirectories& drives_;
+    DirectoryListing listing_;
     QString path_;
-    std::map<QString, QString> driveDirs_;  // volume root -> its current directory
 };
 
 }  // namespace sonarium

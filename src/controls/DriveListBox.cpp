@@ -25,10 +25,11 @@ DriveListBox::DriveListBox(QString name, Volumes& volumes) : Control(std::move(n
     drive_ = volumeRootOf(volumes_, QDir::cleanPath(QDir::currentPath()));
     if (drive_.isEmpty() && !volumes_.empty()) drive_ = volumes_.front().root;
     index_ = rowOf(drive_);
+    text_ = List(index_);
 }
 
 QString DriveListBox::List(int i) const {
-    return (i >= 0 && i < ListCount()) ? volumes_[i].root : QString();
+    return (i >= 0 && i < ListCount()) ? driveText(volumes_[i]) : QString();
 }
 
 QString DriveListBox::Label(int i) const {
@@ -41,18 +42,25 @@ int DriveListBox::rowOf(const QString& root) const {
     return -1;
 }
 
+QString DriveListBox::rootOf(const QString& text) const {
+    for (const Volume& v : volumes_)
+        if (driveText(v) == text) return v.root;
+    return DriveOf(text);
+}
+
 void DriveListBox::setDrive(const QString& text) {
-    QString root = DriveOf(text);
+    QString root = rootOf(text);
     if (root.isEmpty()) {
         // Perhaps a medium arrived since the list was read.
         Refresh();
-        root = DriveOf(text);
+        root = rootOf(text);
     }
     if (root.isEmpty())
         throw RuntimeError(RuntimeError::DeviceUnavailable, QStringLiteral("Device unavailable"));
     if (root == drive_) return;
     drive_ = root;
     index_ = rowOf(root);
+    text_ = List(index_);
     notify();
     if (onChange) onChange();
 }
@@ -66,6 +74,7 @@ void DriveListBox::setListIndex(int i) {
 void DriveListBox::Refresh() {
     volumes_ = source_.list();
     index_ = rowOf(drive_);
+    if (index_ >= 0) text_ = List(index_);
     notify();
 }
 

@@ -1,6 +1,6 @@
 #pragma once
-// The drive list: the mounted volumes, "/" first. A drive's text is its mount point ("/",
-// "/media/user/USB"); the current drive is `Drive`. Setting Drive to another drive raises
+// The drive list: the mounted volumes, "/" first. A drive's text is driveText ("/ [sda2]",
+// "/media/user/USB [USB]"); the current drive is `Drive`. Setting Drive to another drive raises
 // onChange; a drive that is listed but not ready can still be chosen (it is Dir1 that fails
 // on it), only a text that names no volume at all fails.
 #include <QString>
@@ -21,7 +21,8 @@ class DriveListBox : public Control {
 public:
     DriveListBox(QString name, Volumes& volumes);
 
-    const QString& Drive() const { return drive_; }
+    // The current drive's text.
+    const QString& Drive() const { return text_; }
     // Accepts a drive's text or any absolute path on it, which names the drive that holds it
     // (so the drive of a directory is `setDrive(dir)`). A text on no volume throws
     // RuntimeError DeviceUnavailable and changes nothing.
@@ -46,10 +47,13 @@ public:
 
 private:
     int rowOf(const QString& root) const;
+    // The root of the volume a drive's text or a path names; "" when none does.
+    QString rootOf(const QString& text) const;
 
     Volumes& source_;
     std::vector<Volume> volumes_;
-    QString drive_;
+    QString drive_;  // the current drive's root
+    QString text_;   // and its text, kept when the volume goes
     int index_ = -1;
 };
 

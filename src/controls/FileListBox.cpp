@@ -34,7 +34,7 @@ void FileListBox::Refresh() {
 }
 
 void FileListBox::readRows() {
-    rows_ = matchFiles(path_, pattern_);
+    rows_ = matchNames(listing_.read(path_).files, pattern_);
 }
 
 }  // namespace sonarium

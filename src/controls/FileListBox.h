@@ -5,6 +5,7 @@
 #include <QString>
 #include <QStringList>
 
+#include "controls/DirectoryListing.h"
 #include "controls/RowList.h"
 
 namespace sonarium {
@@ -35,6 +36,7 @@ private:
 
     QString path_;
     QString pattern_ = QStringLiteral("*.MP3");
+    DirectoryListing listing_;
 };
 
 }  // namespace sonarium

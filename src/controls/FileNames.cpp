@@ -1,10 +1,11 @@
 #include "controls/FileNames.h"
 
+#include "controls/DirectoryListing.h"
+
 #include <dirent.h>
 #include <sys/stat.h>
 
 #include <QDir>
-#include <QDirIterator>
 #include <QFile>
 #include <algorithm>
 #include <cerrno>
@@ -148,26 +149,23 @@ bool wildcardMatch(const QString& pattern, const QString& name) {
     return p == pattern.size();
 }
 
-QStringList matchFiles(const QString& dir, const QString& patterns) {
+QStringList matchNames(const QStringList& names, const QString& patterns) {
     QStringList wanted;
     for (const QString& p : patterns.split(u';', Qt::SkipEmptyParts))
         if (!p.trimmed().isEmpty()) wanted << p.trimmed();
     if (wanted.isEmpty()) wanted << QStringLiteral("*");
 
-    QStringList names;
-    QDirIterator it(dir.isEmpty() ? QStringLiteral(".") : dir, QDir::Files | QDir::NoDotAndDotDot);
-    while (it.hasNext()) {
-        it.next();
-        const QString name = it.fileName();
-        for (const QString& p : wanted) {
-            if (wildcardMatch(p, name)) {
-                names << name;
-                break;
-            }
-        }
-    }
-    std::sort(names.begin(), names.end(), lessIgnoringCase);
-    return names;
+    QStringList matched;
+    for (const QString& name : names)
+        if (std::any_of(wanted.begin(), wanted.end(), [&](const QString& p) { return wildcardMatch(p, name); }))
+            matched << name;
+    std::sort(matched.begin(), matched.end(), lessIgnoringCase);
+    return matched;
+}
+
+QStringList matchFiles(const QString& dir, const QString& patterns) {
+    DirectoryListing listing;
+    return matchNames(listing.read(dir).files, patterns);
 }
 
 bool lessIgnoringCase(const QString& a, const QString& b) {

@@ -30,6 +30,8 @@ bool wildcardMatch(const QString& pattern, const QString& name);
 // not give by themselves. A directory that cannot be read gives an
 // empty list.
 QStringList matchFiles(const QString& dir, const QString& patterns);
+// The names of `names` that match `patterns`, in that order.
+QStringList matchNames(const QStringList& names, const QString& patterns);
 
 // The order of names in file and directory lists: alphabetical without regard to case, names
 // that differ only in case in their exact order.

@@ -10,6 +10,14 @@ struct Volume {
     QString label;  // what the drive list shows beside the root
 };
 
+// The text by which the drive lists name a volume: its mount point with the volume's name in
+// brackets ("/ [sda2]", "/media/user/USB [USB]"). It is never a folder's path, so a folder list
+// given "/" or a mount point shows that folder, and only the drive's own text moves to the
+// drive's current directory.
+inline QString driveText(const Volume& v) {
+    return v.root + QStringLiteral(" [") + (v.label.isEmpty() ? v.root : v.label) + u']';
+}
+
 class Volumes {
 public:
     virtual ~Volumes() = default;

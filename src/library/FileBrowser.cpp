@@ -67,7 +67,7 @@ void Form1::Drive1_Change() {
             Dir1.setPath(Drive1.Drive());
         } catch (const RuntimeError&) {
             tryStep([&] { Dir1.setPath(oldPath); });
-            if (C.dialogs.msgBox(QStringLiteral("Not ready reading Drive ") + Drive1.Drive() + QStringLiteral(" Retry?"),
+            if (C.dialogs.msgBox(QStringLiteral("Not ready reading Drive ") + Drive1.Drive().toUpper() + QStringLiteral(" Retry?"),
                                  MsgButtons::YesNo, MsgIcon::Exclamation, QStringLiteral("Change Drive")) == MsgResult::Yes) {
                 retry = true;
             } else {

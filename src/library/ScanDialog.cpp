@@ -48,7 +48,7 @@ void Form1::FrmGeneral_Drive1_Change() {
             g.Dir1.setPath(g.Drive1.Drive());
         } catch (const RuntimeError&) {
             tryStep([&] { g.Dir1.setPath(oldPath); });
-            if (C.dialogs.msgBox(QStringLiteral("Not ready reading Drive ") + g.Drive1.Drive() + QStringLiteral(" Retry?"),
+            if (C.dialogs.msgBox(QStringLiteral("Not ready reading Drive ") + g.Drive1.Drive().toUpper() + QStringLiteral(" Retry?"),
                                  MsgButtons::YesNo, MsgIcon::Exclamation,
                                  QStringLiteral("Change Drive")) == MsgResult::Yes)
                 retry = true;

@@ -4,9 +4,10 @@
 
 namespace sonarium {
 
-Form1::Form1(Module1& m, Components& c, FrmGeneral& general, Form2& f2, FrmMiniPlayer& mini)
+Form1::Form1(Module1& m, Components& c, DriveDirectories& drives, FrmGeneral& general, Form2& f2,
+             FrmMiniPlayer& mini)
     : Form(QStringLiteral("Form1")),
-      Form1Controls(c),
+      Form1Controls(c, drives),
       M(m),
       C(c),
       frmGeneral(general),

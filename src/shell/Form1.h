@@ -31,7 +31,8 @@ std::int16_t yearNumber(const QString& text);
 
 class Form1 : public Form, public Form1Controls, public Form1Menus {
 public:
-    Form1(Module1& m, Components& c, FrmGeneral& general, Form2& form2, FrmMiniPlayer& mini);
+    Form1(Module1& m, Components& c, DriveDirectories& drives, FrmGeneral& general, Form2& form2,
+          FrmMiniPlayer& mini);
 
     Module1& M;
     Components& C;
@@ -134,6 +135,8 @@ public:
     void mnuSaveSongSet_Click();
     void mnuLoadSongSet_Click();
     void mnuSongSets_Click();
+    void mnuSongInfo_Click();  // the pane's other faces, in library/SongDetails.cpp
+    void mnuPhoto_Click();
     void lstSongSets_DblClick();
     void GetSongSetsFromMini();
     void ReadQueue(TextFieldReader& in);  // fills the queue from a Mixer.dat or song set

@@ -4,10 +4,10 @@
 
 namespace sonarium {
 
-Form1Controls::Form1Controls(Components& c)
+Form1Controls::Form1Controls(Components& c, DriveDirectories& drives)
     : DBGrid1(QStringLiteral("DBGrid1"), c.data),
       Drive1(QStringLiteral("Drive1"), c.volumes),
-      Dir1(QStringLiteral("Dir1"), c.volumes),
+      Dir1(QStringLiteral("Dir1"), c.volumes, drives),
       Fillist(QStringLiteral("Fillist")),
       Timer1(QStringLiteral("Timer1"), c.loop, 100),
       Timer2(QStringLiteral("Timer2"), c.loop, 100),

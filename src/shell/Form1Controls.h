@@ -14,7 +14,7 @@ namespace sonarium {
 struct Components;
 
 struct Form1Controls {
-    explicit Form1Controls(Components& c);
+    Form1Controls(Components& c, DriveDirectories& drives);
 
     // Backgrounds cut from the skin's panel sheet.
     PictureBox imgStick{"imgStick"}, PicTopPanel{"PicTopPanel"}, PicView{"PicView"},

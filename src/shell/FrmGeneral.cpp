@@ -6,10 +6,10 @@
 
 namespace sonarium {
 
-FrmGeneral::FrmGeneral(Volumes& volumes)
+FrmGeneral::FrmGeneral(Volumes& volumes, DriveDirectories& drives)
     : Form(QStringLiteral("FrmGeneral")),
       Drive1(QStringLiteral("Drive1"), volumes),
-      Dir1(QStringLiteral("Dir1"), volumes) {
+      Dir1(QStringLiteral("Dir1"), volumes, drives) {
     setCaption(QStringLiteral("Sonarium"));
     design();
     // The About box closes with its OK button.

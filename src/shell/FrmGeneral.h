@@ -15,7 +15,7 @@ class FrmGeneral : public Form {
 public:
     // The drive and directory lists see the machine's volumes, and start on the drive and
     // directory of the process's current directory.
-    explicit FrmGeneral(Volumes& volumes);
+    FrmGeneral(Volumes& volumes, DriveDirectories& drives);
 
     // The faces that use the lists. Each shows its controls and hides those it has no use
     // for; a control it doesn't name keeps its state (the check box for sub-directories is

@@ -9,7 +9,10 @@
 namespace sonarium {
 
 Program::Program(Components& components)
-    : C(components), frmGeneral(components.volumes), form1(M, components, frmGeneral, form2, frmMiniPlayer) {}
+    : C(components),
+      driveDirectories(components.volumes, components.startDir),
+      frmGeneral(components.volumes, driveDirectories),
+      form1(M, components, driveDirectories, frmGeneral, form2, frmMiniPlayer) {}
 
 // Every step that fails is skipped and the next one runs.
 void Program::Main() {

@@ -2,6 +2,7 @@
 // The program's own units built once from the components: the module's state and the four
 // windows. Main() is the entry procedure.
 #include "controls/Components.h"
+#include "controls/DriveDirectories.h"
 #include "conversion/Form2.h"
 #include "shell/Form1.h"
 #include "shell/FrmGeneral.h"
@@ -20,6 +21,8 @@ public:
 
     Components& C;
     Module1 M;
+    // Where each drive's folder lists start, shared by the main window's and the dialog's.
+    DriveDirectories driveDirectories;
     FrmGeneral frmGeneral;
     Form2 form2;
     FrmMiniPlayer frmMiniPlayer;

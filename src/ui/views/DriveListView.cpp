@@ -20,11 +20,7 @@ void DriveListView::showPopup() {
 void DriveListView::syncOwn() {
     syncing_ = true;
     QStringList rows;
-    for (int i = 0; i < drives_.ListCount(); ++i) {
-        const QString label = drives_.Label(i);
-        rows << (label.isEmpty() || label == drives_.List(i) ? drives_.List(i)
-                                                             : QStringLiteral("%1  [%2]").arg(drives_.List(i), label));
-    }
+    for (int i = 0; i < drives_.ListCount(); ++i) rows << drives_.List(i);
     if (rows != shownRows_) {
         shownRows_ = rows;
         clear();

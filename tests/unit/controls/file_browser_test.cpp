@@ -1,5 +1,6 @@
 // The drive, directory and file lists over temporary directory trees, with made-up volumes.
 #include <gtest/gtest.h>
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -9,6 +10,8 @@
 
 #include "FakeVolumes.h"
 #include "controls/DirListBox.h"
+#include "controls/DirectoryListing.h"
+#include "controls/DriveDirectories.h"
 #include "controls/DriveListBox.h"
 #include "controls/FileListBox.h"
 #include "controls/FileNames.h"
@@ -41,6 +44,12 @@ protected:
                             QFile::encodeName(root + u'/' + rel).constData()),
                   0);
     }
+    // The drive lists' text of the volume mounted at `root`.
+    QString drive(const QString& root) {
+        for (const Volume& v : volumes.list())
+            if (v.root == root) return driveText(v);
+        return {};
+    }
     template <typename List>
     static QStringList rows(const List& list) {
         QStringList r;
@@ -51,6 +60,7 @@ protected:
     QTemporaryDir tmp;
     QString root, a, b;
     FakeVolumes volumes;
+    DriveDirectories drives{volumes, QDir::currentPath()};
 };
 
 TEST_F(FileBrowser, DriveListFollowsVolumesAndNamesTheDriveOfAPath) {
@@ -58,95 +68,125 @@ TEST_F(FileBrowser, DriveListFollowsVolumesAndNamesTheDriveOfAPath) {
     const QString nested = mkdir("A/inner");
     volumes.add(ab);
     volumes.add(nested);
-    DriveListBox drive("Drive1", volumes);
+    DriveListBox list("Drive1", volumes);
     int changes = 0;
-    drive.onChange = [&] { ++changes; };
+    list.onChange = [&] { ++changes; };
 
-    ASSERT_EQ(drive.ListCount(), 4);
-    EXPECT_EQ(drive.Drive(), a);
-    EXPECT_EQ(drive.ListIndex(), 0);
-    EXPECT_EQ(drive.Label(1), "Beta");
+    ASSERT_EQ(list.ListCount(), 4);
+    EXPECT_EQ(list.Drive(), drive(a));
+    EXPECT_EQ(list.ListIndex(), 0);
+    EXPECT_EQ(list.Label(1), "Beta");
 
     // The longest mount point at a path boundary: A/inner holds its own files, AB is not in A.
-    EXPECT_EQ(drive.DriveOf(a + "/inner/x/y"), nested);
-    EXPECT_EQ(drive.DriveOf(a + "/innerx"), a);
-    EXPECT_EQ(drive.DriveOf(ab + "/Music"), ab);
-    EXPECT_EQ(drive.DriveOf(a), a);
-    EXPECT_EQ(drive.DriveOf("relative/A"), "");
+    EXPECT_EQ(list.DriveOf(a + "/inner/x/y"), nested);
+    EXPECT_EQ(list.DriveOf(a + "/innerx"), a);
+    EXPECT_EQ(list.DriveOf(ab + "/Music"), ab);
+    EXPECT_EQ(list.DriveOf(a), a);
+    EXPECT_EQ(list.DriveOf("relative/A"), "");
     EXPECT_EQ(volumeRootOf({{"/", ""}, {"/media/usb", ""}}, "/media/usbx/a"), "/");
     EXPECT_EQ(volumeRootOf({{"/", ""}, {"/media/usb", ""}}, "/media/usb/a"), "/media/usb");
 
     // A path names the drive that holds it; the same drive again is no change.
-    drive.setDrive(b + "/deep/er");
-    EXPECT_EQ(drive.Drive(), b);
-    EXPECT_EQ(drive.ListIndex(), 1);
-    drive.setDrive(b);
+    list.setDrive(b + "/deep/er");
+    EXPECT_EQ(list.Drive(), drive(b));
+    EXPECT_EQ(list.ListIndex(), 1);
+    list.setDrive(b);
+    list.setDrive(drive(b));
     EXPECT_EQ(changes, 1);
+    EXPECT_EQ(list.List(1), b + " [Beta]");
 
     // A drive that isn't ready can be chosen: it is the directory list that fails on it.
     volumes.setReady(a, false);
-    drive.setListIndex(0);
-    EXPECT_EQ(drive.Drive(), a);
+    list.setListIndex(0);
+    EXPECT_EQ(list.Drive(), drive(a));
     EXPECT_EQ(changes, 2);
 
     // A text on no volume fails and changes nothing.
-    EXPECT_EQ(errorOf([&] { drive.setDrive("/nowhere/at/all"); }), RuntimeError::DeviceUnavailable);
-    EXPECT_EQ(errorOf([&] { drive.setListIndex(4); }), RuntimeError::InvalidPropertyValue);
-    EXPECT_EQ(drive.Drive(), a);
+    EXPECT_EQ(errorOf([&] { list.setDrive("/nowhere/at/all"); }), RuntimeError::DeviceUnavailable);
+    EXPECT_EQ(errorOf([&] { list.setListIndex(4); }), RuntimeError::InvalidPropertyValue);
+    EXPECT_EQ(list.Drive(), drive(a));
     EXPECT_EQ(changes, 2);
 
     // A medium that arrives later is found when it is named, and Refresh drops one that left.
     const QString usb = mkdir("usb");
     volumes.add(usb);
-    drive.setDrive(usb + "/Songs");
-    EXPECT_EQ(drive.Drive(), usb);
-    EXPECT_EQ(drive.ListCount(), 5);
+    list.setDrive(usb + "/Songs");
+    const QString usbText = drive(usb);
+    EXPECT_EQ(list.Drive(), usbText);
+    EXPECT_EQ(list.ListCount(), 5);
     volumes.remove(usb);
-    drive.Refresh();
-    EXPECT_EQ(drive.ListCount(), 4);
-    EXPECT_EQ(drive.Drive(), usb);
-    EXPECT_EQ(drive.ListIndex(), -1);
+    list.Refresh();
+    EXPECT_EQ(list.ListCount(), 4);
+    EXPECT_EQ(list.Drive(), usbText);
+    EXPECT_EQ(list.ListIndex(), -1);
 }
 
-TEST_F(FileBrowser, DriveTextMovesToThatDrivesOwnCurrentDirectory) {
+TEST_F(FileBrowser, DriveTextMovesToTheLastFolderAFolderListShowedOnThatDrive) {
     const QString aMusic = mkdir("A/Music");
     const QString bRock = mkdir("B/Rock");
-    DirListBox dir("Dir1", volumes);
+    DirListBox dir("Dir1", volumes, drives), other("Dir1", volumes, drives);
     QStringList seen;
     dir.onChange = [&] { seen << dir.Path(); };
 
-    dir.setPath(a);  // a drive's text: its current directory, at first the mount point
+    dir.setPath(drive(a));  // at first a drive's mount point
     dir.setPath("Music");
-    dir.setPath(b);
+    dir.setPath(drive(b));
     dir.setPath(bRock);
-    // Back on A: the drive's own current directory, not where the list was last on A.
-    dir.setPath(a);
-    EXPECT_EQ(seen, QStringList({a, aMusic, b, bRock, a}));
+    dir.setPath(drive(a));
+    EXPECT_EQ(seen, QStringList({a, aMusic, b, bRock, aMusic}));
 
-    // Once a drive's current directory is set, switching drives lands there, each its own.
-    dir.setDriveDirectory(aMusic);
-    dir.setDriveDirectory(bRock);
-    EXPECT_EQ(dir.driveDirectory(a), aMusic);
-    dir.setPath(b);
-    EXPECT_EQ(dir.Path(), bRock);
-    dir.setPath(a);
-    EXPECT_EQ(dir.Path(), aMusic);
-    // A trailing slash makes it a directory, not a drive.
-    dir.setPath(a + "/");
-    EXPECT_EQ(dir.Path(), a);
-    // A drive whose current directory was removed falls back to its root.
-    dir.setPath(b);
-    ASSERT_TRUE(QDir(bRock).removeRecursively());
-    dir.setPath(a);
-    dir.setPath(b);
+    // Any folder list moves it: the other list was last on B at its mount point.
+    other.setPath(b);
+    dir.setPath(drive(b));
     EXPECT_EQ(dir.Path(), b);
+    // A mount point, and "/" itself, are folders like any other.
+    dir.setPath(a);
+    EXPECT_EQ(dir.Path(), a);
+    dir.setPath("/");
+    EXPECT_EQ(dir.Path(), "/");
+    // A drive whose current directory was removed falls back to its root.
+    dir.setPath(bRock);
+    dir.setPath(a);
+    ASSERT_TRUE(QDir(bRock).removeRecursively());
+    dir.setPath(drive(b));
+    EXPECT_EQ(dir.Path(), b);
+}
+
+// A listing read long after the directory's last change is kept; any change to the directory
+// since (a new entry, a rename, a removal) is seen on the next read.
+TEST_F(FileBrowser, AnUnchangedDirectoryIsNotReadAgainAndAChangedOneIs) {
+    const QString music = mkdir("A/Music");
+    mkdir("A/Music/Jazz");
+    touch("A/Music/a.mp3");
+    const auto ageDirectory = [&] {
+        const timespec hourAgo[2] = {{::time(nullptr) - 3600, 0}, {::time(nullptr) - 3600, 0}};
+        ASSERT_EQ(::utimensat(AT_FDCWD, QFile::encodeName(music).constData(), hourAgo, 0), 0);
+    };
+    ageDirectory();
+    DirectoryListing listing;
+    const DirectoryListing::Entries* first = &listing.read(music);
+    EXPECT_EQ(first->dirs, QStringList({"Jazz"}));
+    EXPECT_EQ(first->files, QStringList({"a.mp3"}));
+    EXPECT_EQ(&listing.read(music), first) << "not read again";
+
+    const auto changed = [&](const std::function<void()>& change) {
+        ageDirectory();
+        listing.read(music);  // read well after the change: kept from here on
+        change();
+        return listing.read(music);
+    };
+    EXPECT_EQ(changed([&] { mkdir("A/Music/Blues"); }).dirs.size(), 2);
+    QStringList renamed = changed([&] { QDir(music).rename("Blues", "Soul"); }).dirs;
+    renamed.sort();
+    EXPECT_EQ(renamed, QStringList({"Jazz", "Soul"}));
+    EXPECT_EQ(changed([&] { QFile::remove(music + "/a.mp3"); }).files, QStringList());
 }
 
 TEST_F(FileBrowser, ChangeIsRaisedOnlyWhenThePathReallyChangesAndAFailedOneChangesNothing) {
     mkdir("A/Music/Jazz");
     mkdir("A/Music/Blues");
     mkdir("B/Rock");
-    DirListBox dir("Dir1", volumes);
+    DirListBox dir("Dir1", volumes, drives);
     dir.setPath(a + "/Music");
     int changes = 0;
     QStringList rowsSeen;
@@ -194,7 +234,7 @@ TEST_F(FileBrowser, ChangeIsRaisedOnlyWhenThePathReallyChangesAndAFailedOneChang
 
 TEST_F(FileBrowser, PathHasNoClosingSlashButAtTheRoot) {
     mkdir("A/Music");
-    DirListBox dir("Dir1", volumes);
+    DirListBox dir("Dir1", volumes, drives);
     dir.setPath(a + "/./Music/");
     EXPECT_EQ(dir.Path(), a + "/Music");
     EXPECT_EQ(dir.List(-1), a + "/Music");
@@ -222,7 +262,7 @@ TEST_F(FileBrowser, SubdirectoriesAreSortedWithoutRegardToCaseAndReadOneLevel) {
     symlink(root + "/nothing", "A/dangling");
     ASSERT_EQ(::chmod(QFile::encodeName(a + "/locked").constData(), 0), 0);
 
-    DirListBox dir("Dir1", volumes);
+    DirListBox dir("Dir1", volumes, drives);
     dir.setPath(a);
     EXPECT_EQ(rows(dir), QStringList({a + "/Alpha", a + "/beta", a + "/Gamma", a + "/Link", a + "/locked",
                                       a + "/loop", a + "/zeta"}));

@@ -51,11 +51,11 @@ TEST_F(Browser, ADriveThatIsNotReadyIsAskedAboutUntilTheUserGivesUp) {
     tc.volumes.setReady(usb, false);
     tc.dialogs.answer(MsgResult::Yes).answer(MsgResult::No);
     f.Drive1.setDrive(usb);
-    ASSERT_EQ(tc.dialogs.texts(), QStringList({"Not ready reading Drive " + usb + " Retry?",
-                                               "Not ready reading Drive " + usb + " Retry?"}));
+    const QString text = "Not ready reading Drive " + usb.toUpper() + " [STICK] Retry?";
+    ASSERT_EQ(tc.dialogs.texts(), QStringList({text, text}));
     EXPECT_EQ(tc.dialogs.shown()[0].title, "Change Drive");
     EXPECT_EQ(tc.dialogs.shown()[0].buttons, MsgButtons::YesNo);
-    EXPECT_EQ(f.Drive1.Drive(), "/") << "No sends the drive list back to the drive in use";
+    EXPECT_EQ(f.Drive1.Drive(), f.Drive1.List(0)) << "No sends the drive list back to the drive in use";
     EXPECT_EQ(f.Dir1.Path(), before);
     EXPECT_EQ(f.MousePointer(), DefaultPointer);
 }

@@ -116,10 +116,10 @@ TEST_F(Scanner, WalksSubdirectoriesLastToFirstDepthFirstWithFilesLastAndCounts) 
     scan(dir.path(), true);
     EXPECT_EQ(tc.dialogs.texts(), QStringList({"0 new titles found"}));
 
-    // From a directory other than the drive's current one, the first level walks the current
-    // directory's sub-directories, as many as the chosen one has, and then the chosen one's files.
+    // The folder chosen is the last its drive's lists showed, so the first level's move to the
+    // drive lands there: from any folder the walk is that folder's whole tree.
     scan(path("A"), true);
-    EXPECT_EQ(opened(), QStringList({"B/B1.MP3", "A/A2/x.MP3", "A/A1/deep.mp3", "A/a1.MP3", "A/a1.MP3"}));
+    EXPECT_EQ(opened(), QStringList({"A/A2/x.MP3", "A/A1/deep.mp3", "A/a1.MP3"}));
     // Without sub-directories only the chosen directory's files.
     scan(path("A"), false);
     EXPECT_EQ(opened(), QStringList({"A/a1.MP3"}));
@@ -284,12 +284,12 @@ TEST_F(Scanner, TheScanFaceAndTheDialogsAnswers) {
     tc.dialogs.clear();
     tc.dialogs.answer(MsgResult::Yes).answer(MsgResult::No);
     g.Drive1.setDrive(usb);
-    EXPECT_EQ(tc.dialogs.texts(), QStringList({"Not ready reading Drive " + usb + " Retry?",
-                                               "Not ready reading Drive " + usb + " Retry?"}));
+    const QString text = "Not ready reading Drive " + usb.toUpper() + " [USB] Retry?";
+    EXPECT_EQ(tc.dialogs.texts(), QStringList({text, text}));
     EXPECT_EQ(tc.dialogs.shown()[0].title, "Change Drive");
-    EXPECT_EQ(g.Drive1.Drive(), "/");
-    EXPECT_EQ(g.Dir1.Path(), dir.path());
-    EXPECT_EQ(g.File1.Path(), dir.path());
+    EXPECT_EQ(g.Drive1.Drive(), g.Drive1.List(0));
+    EXPECT_EQ(g.Dir1.Path(), path("Music"));
+    EXPECT_EQ(g.File1.Path(), path("Music"));
 }
 
 TEST_F(Scanner, ManualAddThenUpdateKeepsWhatTheUserTyped) {

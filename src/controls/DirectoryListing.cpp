@@ -1,0 +1,82 @@
+#include "controls/DirectoryListing.h"
+
+#include <dirent.h>
+#include <sys/stat.h>
+
+#include <QDir>
+#include <QFile>
+#include <cstring>
+#include <ctime>
+
+namespace sonarium {
+namespace {
+
+// Coarser file systems keep times to two seconds: a listing read closer than that to the
+// directory's last change may have missed a change the times cannot show.
+constexpr std::int64_t kRacyNs = 2'000'000'000;
+
+std::int64_t ns(const timespec& t) { return std::int64_t(t.tv_sec) * 1'000'000'000 + t.tv_nsec; }
+
+bool stampOf(const QByteArray& dir, std::uint64_t& dev, std::uint64_t& ino, std::uint64_t& nlink,
+             std::int64_t& mtime, std::int64_t& ctime) {
+    struct stat st;
+    if (::stat(dir.constData(), &st) != 0 || !S_ISDIR(st.st_mode)) return false;
+    dev = st.st_dev, ino = st.st_ino, nlink = st.st_nlink;
+    mtime = ns(st.st_mtim), ctime = ns(st.st_ctim);
+    return true;
+}
+
+std::int64_t nowNs() {
+    timespec t{};
+    ::clock_gettime(CLOCK_REALTIME, &t);
+    return ns(t);
+}
+
+}  // namespace
+
+const DirectoryListing::Entries& DirectoryListing::read(const QString& dir) {
+    // The program's own resources (the built-in skin) are no directory of the system's.
+    if (dir.startsWith(u':')) {
+        const QDir qdir(dir);
+        none_.dirs = qdir.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Unsorted);
+        none_.files = qdir.entryList(QDir::Files, QDir::Unsorted);
+        return none_;
+    }
+    none_ = {};
+    const QByteArray path = QFile::encodeName(dir.isEmpty() ? QStringLiteral(".") : dir);
+    Stamp stamp;
+    if (!stampOf(path, stamp.dev, stamp.ino, stamp.nlink, stamp.mtime, stamp.ctime)) return none_;
+
+    for (auto it = kept_.begin(); it != kept_.end(); ++it) {
+        if (it->dir != dir) continue;
+        if (it->stamp == stamp && it->readAt - std::max(stamp.mtime, stamp.ctime) > kRacyNs) {
+            kept_.splice(kept_.begin(), kept_, it);
+            return kept_.front().entries;
+        }
+        kept_.erase(it);
+        break;
+    }
+
+    Listing listing{dir, stamp, nowNs(), {}};
+    if (DIR* d = ::opendir(path.constData())) {
+        const int fd = ::dirfd(d);
+        while (const dirent* e = ::readdir(d)) {
+            if (e->d_name[0] == '.') continue;  // hidden, and "." and ".."
+            // The entry's type from the directory itself where it says; a symlink or an
+            // unknown type costs one stat, which follows the link but never further.
+            bool isDir = e->d_type == DT_DIR, isFile = e->d_type == DT_REG;
+            if (e->d_type == DT_LNK || e->d_type == DT_UNKNOWN) {
+                struct stat st;
+                if (::fstatat(fd, e->d_name, &st, 0) == 0) isDir = S_ISDIR(st.st_mode), isFile = S_ISREG(st.st_mode);
+            }
+            if (isDir) listing.entries.dirs << QFile::decodeName(e->d_name);
+            if (isFile) listing.entries.files << QFile::decodeName(e->d_name);
+        }
+        ::closedir(d);
+    }
+    kept_.push_front(std::move(listing));
+    if (kept_.size() > kKept) kept_.pop_back();
+    return kept_.front().entries;
+}
+
+}  // namespace sonarium

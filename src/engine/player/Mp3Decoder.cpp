@@ -8,6 +8,7 @@
 #include <mutex>
 
 #include "controls/FileNames.h"
+#include "engine/player/Mp3Survey.h"
 
 namespace sonarium {
 
@@ -20,16 +21,6 @@ constexpr int kMaxFailuresInARow = 32;
 void initLibraryOnce() {
     static std::once_flag once;
     std::call_once(once, [] { mpg123_init(); });
-}
-
-// The bytes of an ID3v2 tag at the start of `head` (10-byte header, synchsafe size, optional
-// footer), or 0.
-qint64 id3v2Size(const QByteArray& head) {
-    if (head.size() < 10 || !head.startsWith("ID3")) return 0;
-    qint64 size = 0;
-    for (int i = 6; i < 10; ++i) size = (size << 7) | (static_cast<unsigned char>(head[i]) & 0x7f);
-    const bool footer = (static_cast<unsigned char>(head[5]) & 0x10) != 0;
-    return 10 + size + (footer ? 10 : 0);
 }
 
 }  // namespace
@@ -51,7 +42,11 @@ int Mp3Decoder::open(const QString& path) {
     close();
     const QString resolved = resolveFileName(path);
     const QFileInfo fi(resolved);
-    if (path.isEmpty() || !fi.isFile() || !fi.isReadable() || fi.size() == 0) return 1;
+    if (path.isEmpty() || !fi.isFile() || fi.size() == 0) return 1;
+    QFile file(resolved);
+    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) return 1;
+    const LengthSurvey survey = surveyLength(file);
+    file.close();
 
     initLibraryOnce();
     int err = MPG123_OK;
@@ -68,34 +63,59 @@ int Mp3Decoder::open(const QString& path) {
     for (size_t i = 0; i < rateCount; ++i)
         mpg123_format(handle_, rates[i], MPG123_MONO | MPG123_STEREO, MPG123_ENC_SIGNED_16);
 
-    if (mpg123_open(handle_, QFile::encodeName(resolved).constData()) != MPG123_OK || !probe()) {
+    if (mpg123_open(handle_, QFile::encodeName(resolved).constData()) != MPG123_OK || !probe(survey)) {
         close();
         return 1;
     }
-    info_.bitRate = bitRate(resolved);
+    info_.bitRate = bitRate(fi.size(), survey);
     return 0;
 }
 
-// Reads the format and the exact length; false when the file holds no MPEG audio.
-bool Mp3Decoder::probe() {
-    if (mpg123_scan(handle_) != MPG123_OK) return false;
+// Reads the format and the length the survey found a way to; false when the file holds no
+// MPEG audio. The first frame is read here, and with it any Xing/Info header.
+bool Mp3Decoder::probe(const LengthSurvey& survey) {
+    if (survey.method == LengthSurvey::Scan && mpg123_scan(handle_) != MPG123_OK) return false;
     long rate = 0;
     int channels = 0, encoding = 0;
     if (mpg123_getformat(handle_, &rate, &channels, &encoding) != MPG123_OK) return false;
     if (encoding != MPG123_ENC_SIGNED_16 || rate <= 0 || (channels != 1 && channels != 2)) return false;
     mpg123_frameinfo frame{};
     if (mpg123_info(handle_, &frame) != MPG123_OK) return false;
-    const off_t frames = mpg123_framelength(handle_);
-    const off_t samples = mpg123_length(handle_);
+    off_t frames = mpg123_framelength(handle_);
+    off_t samples = mpg123_length(handle_);
+    bool exact = true;
+    switch (survey.method) {
+    case LengthSurvey::Scan:
+        break;
+    case LengthSurvey::XingFrames:
+        // The library read the same header, with its gapless trimming; should it have
+        // refused the header, only counting the frames tells.
+        if (frames != survey.frames) {
+            if (mpg123_scan(handle_) != MPG123_OK) return false;
+            frames = mpg123_framelength(handle_);
+            samples = mpg123_length(handle_);
+        }
+        break;
+    case LengthSurvey::VbriFrames:  // the library decodes this header's frame as audio
+    case LengthSurvey::ConstantRate:
+        if (survey.samplesPerFrame != mpg123_spf(handle_)) return false;
+        frames = static_cast<off_t>(survey.frames);
+        samples = frames * survey.samplesPerFrame;
+        exact = false;
+        break;
+    }
     if (frames <= 0 || frames > INT32_MAX || samples < 0) return false;
 
     info_.frames = static_cast<std::int32_t>(frames);
     info_.samples = samples;
+    info_.exactCount = exact;
     info_.rate = static_cast<int>(rate);
     info_.channels = channels;
     info_.channelMode = static_cast<int>(frame.mode);
-    // The first frame's rate, for now: bitRate() decides whether it stands for the file.
-    info_.bitRate = (frame.vbr == MPG123_CBR) ? frame.bitrate : 0;
+    // The first frame's rate, for now: bitRate() decides whether it stands for the file. A
+    // VBRI file is VBR, though the library knows nothing of its header.
+    const bool constant = frame.vbr == MPG123_CBR && survey.method != LengthSurvey::VbriFrames;
+    info_.bitRate = constant ? frame.bitrate : 0;
     seekFrame(0);
     return true;
 }
@@ -103,15 +123,12 @@ bool Mp3Decoder::probe() {
 // A CBR file's rate is the one its frames state. A VBR file without an Xing frame looks like
 // CBR to the library, so the stated rate is kept only when the audio bytes over the playing
 // time agree with it; otherwise (VBR, ABR, free format) that average is the rate.
-int Mp3Decoder::bitRate(const QString& path) const {
+int Mp3Decoder::bitRate(qint64 fileSize, const LengthSurvey& survey) const {
     const int stated = info_.bitRate;
     int average = 0;
-    QFile file(path);
-    if (file.open(QIODevice::ReadOnly) && info_.seconds() > 0) {
-        qint64 bytes = file.size() - id3v2Size(file.read(10));
-        if (file.size() >= 128 && file.seek(file.size() - 128) && file.read(3) == "TAG") bytes -= 128;
-        if (bytes > 0) average = static_cast<int>(std::lround(double(bytes) * 8.0 / info_.seconds() / 1000.0));
-    }
+    const qint64 bytes = fileSize - survey.id3v2 - (survey.id3v1 ? 128 : 0);
+    if (bytes > 0 && info_.seconds() > 0)
+        average = static_cast<int>(std::lround(double(bytes) * 8.0 / info_.seconds() / 1000.0));
     if (stated > 0 && (average == 0 || std::abs(average - stated) * 20 <= stated)) return stated;
     return average;
 }
@@ -149,7 +166,8 @@ bool Mp3Decoder::next(DecodedFrame& out) {
         size_t bytes = 0;
         const int r = mpg123_decode_frame(handle_, &num, &audio, &bytes);
         if (r == MPG123_OK) {
-            if (num < 0 || num >= info_.frames || !formatUnchanged()) break;
+            // An estimated count may fall a frame short of the file: decoding goes on to its end.
+            if (num < 0 || (info_.exactCount && num >= info_.frames) || !formatUnchanged()) break;
             out.index = static_cast<std::int32_t>(num);
             out.samples = reinterpret_cast<const std::int16_t*>(audio);
             out.sampleFrames = static_cast<int>(bytes / (sizeof(std::int16_t) * info_.channels));

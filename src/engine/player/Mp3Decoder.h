@@ -3,13 +3,20 @@
 // samples at the file's own rate and channel count. The output matches the mpg123 tool's WAV
 // output bit for bit (same library, same gapless trimming, same format).
 //
-// Frames are numbered from 0 as libmpg123 counts them (an Xing/Info frame is not one). The
-// file is scanned whole at open, so the frame count and length are exact for CBR and VBR.
-// The file is only ever opened for reading. Not thread-safe: one thread at a time.
+// Frames are numbered from 0 as libmpg123 counts them (an Xing/Info frame is not one). Open
+// reads a few KiB of the file to learn its length (see Mp3Survey.h): exact from an Xing/Info
+// header, an estimate within a frame from the size of a constant-rate file, and only where
+// neither serves from a scan of every frame. An estimate never ends decoding early: next()
+// runs to the file's real end. The file is only ever opened for reading. Not thread-safe: one
+// thread at a time.
 #include <QString>
 #include <cstdint>
 
 struct mpg123_handle_struct;
+
+namespace sonarium {
+struct LengthSurvey;
+}
 
 namespace sonarium {
 
@@ -20,6 +27,7 @@ struct Mp3Info {
     int channels = 0;           // 1 or 2
     int channelMode = 0;        // MPEG mode: 0 stereo, 1 joint, 2 dual, 3 mono
     int bitRate = 0;            // kbit/s; the average for VBR
+    bool exactCount = true;     // the decoder itself knows the count: no frame lies past it
     double seconds() const { return rate > 0 ? double(samples) / rate : 0.0; }
 };
 
@@ -44,7 +52,8 @@ public:
     bool isOpen() const { return handle_ != nullptr; }
     const Mp3Info& info() const { return info_; }
 
-    // The next decoded frame will be `frame` (clamped to 0..frames; frames = at the end).
+    // The next decoded frame will be `frame` (clamped to 0..frames; frames = at the end). Lands
+    // exactly, reading forward from the start or the nearest frame already passed.
     void seekFrame(std::int32_t frame);
     // The frame that the next call to next() decodes.
     std::int32_t position() const { return position_; }
@@ -52,9 +61,9 @@ public:
     bool next(DecodedFrame& out);
 
 private:
-    bool probe();
+    bool probe(const LengthSurvey& survey);
     bool formatUnchanged() const;
-    int bitRate(const QString& path) const;
+    int bitRate(qint64 fileSize, const LengthSurvey& survey) const;
 
     mpg123_handle_struct* handle_ = nullptr;
     Mp3Info info_;

@@ -56,7 +56,9 @@ void Mp3Play::startRun(std::int32_t first, std::int32_t last) {
     else
         plan.output = std::make_unique<WavOutput>(wav_);
     plan.first = std::max(first, 0);
-    plan.last = std::min(last, info().frames - 1);
+    // A range to the counted end runs to the file's real end: the count may be an estimate a
+    // frame short, and the decoder stops at the end of the audio by itself.
+    plan.last = last >= info().frames - 1 ? INT32_MAX : last;
     plan.notifyInterval = &notifyInterval_;
     plan.epoch = ++epoch_;
     runToken_ = ends_.runStarted();

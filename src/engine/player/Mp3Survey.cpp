@@ -1,0 +1,83 @@
+#include "engine/player/Mp3Survey.h"
+
+#include <cmath>
+#include <initializer_list>
+
+#include "engine/player/Mp3Headers.h"
+
+namespace sonarium {
+
+namespace {
+
+// Each sample holds several frames at any bit rate (the largest layer III frame is 1,441 bytes).
+constexpr qint64 kPiece = 4096;
+constexpr qint64 kId3v1Bytes = 128;
+
+QByteArray readAt(QIODevice& file, qint64 at, qint64 bytes) {
+    return file.seek(at) ? file.read(bytes) : QByteArray();
+}
+
+// Does this sample's frames agree with the first sample's?
+bool sameConstantRate(const FrameRun& run, const FrameHeader& first) {
+    return run.first && !run.freeFormat && !run.otherStream && !run.mixedRates && run.frames > 0 &&
+           run.first->kbps == first.kbps && run.first->sameStream(first);
+}
+
+}  // namespace
+
+LengthSurvey surveyLength(QIODevice& file) {
+    LengthSurvey s;
+    const qint64 size = file.size();
+    QByteArray head = readAt(file, 0, kPiece);
+    s.id3v2 = id3v2Size(head);
+    if (s.id3v2 >= size) return s;
+    if (s.id3v2 > 0) head = readAt(file, s.id3v2, kPiece);
+    const qint64 tailAt = std::max<qint64>(0, size - kPiece - kId3v1Bytes);
+    QByteArray tail = readAt(file, tailAt, size - tailAt);
+    s.id3v1 = size >= kId3v1Bytes && tail.size() >= kId3v1Bytes && tail.right(kId3v1Bytes).startsWith("TAG");
+    if (s.id3v1) tail.chop(kId3v1Bytes);
+    const qint64 audioLimit = size - (s.id3v1 ? kId3v1Bytes : 0);
+
+    const FrameRun first = walkFrames(head);
+    if (!first.first || first.freeFormat) return s;
+    const FrameHeader& h = *first.first;
+    const qint64 start = s.id3v2 + first.firstAt;
+    s.samplesPerFrame = h.samples();
+
+    const qint64 audio = audioLimit - start;
+    const LengthHeader stated = lengthHeader(head.mid(first.firstAt, h.bytes()), h);
+    if (stated.kind != LengthHeader::None) {
+        // A header without a frame count: its frame is no audio, so bytes would not count. A
+        // count the file's bytes could not hold at any rate is a lie: the frames are counted.
+        const std::int64_t n = stated.frames;
+        const bool plausible = n * h.smallestBytes() <= audio && n * h.largestBytes() >= audio - h.largestBytes();
+        if (n > 0 && n <= INT32_MAX && plausible) {
+            s.method = stated.kind == LengthHeader::Xing ? LengthSurvey::XingFrames : LengthSurvey::VbriFrames;
+            s.frames = stated.frames;
+        }
+        return s;
+    }
+
+    // A short file costs a scan no more than the samples would.
+    if (audio < 4 * kPiece || tailAt < start) return s;
+    // A VBR file without a header may open with a run of frames at the lowest rate (silence),
+    // so the rate must hold all through the file, not only at its start.
+    const FrameRun third = walkFrames(readAt(file, start + audio / 3, kPiece));
+    const FrameRun twoThirds = walkFrames(readAt(file, start + audio * 2 / 3, kPiece));
+    const FrameRun end = walkFrames(tail);
+    for (const FrameRun* run : {&first, &third, &twoThirds, &end})
+        if (!sameConstantRate(*run, h)) return s;
+
+    // Trailing bytes that are no frames (another tag) are not audio.
+    const qint64 audioEnd = end.reachesEnd ? audioLimit : tailAt + end.end;
+    // An encoder that pads keeps the mean size exact; one that never pads makes every frame
+    // the shorter size, which the samples show (at any fractional mean a padding encoder pads
+    // at least every fifth frame).
+    const bool padded = first.padded || third.padded || twoThirds.padded || end.padded;
+    const double frameBytes = padded ? h.meanBytes() : h.unpaddedBytes();
+    s.frames = std::llround(double(audioEnd - start) / frameBytes);
+    if (s.frames > 0 && s.frames <= INT32_MAX) s.method = LengthSurvey::ConstantRate;
+    return s;
+}
+
+}  // namespace sonarium

@@ -54,9 +54,18 @@ void Form1::mnuCreateDatabase_Click() {
         C.dialogs.msgBox(QStringLiteral("Database already exists - overwrite?"), MsgButtons::YesNo,
                          MsgIcon::Exclamation, QStringLiteral("Create Database")) == MsgResult::No)
         return;
+    const QString before = M.DatabasePath;
     try {
         M.DatabasePath = name;
         MakeDatabase(name);
+    } catch (const RuntimeError& e) {
+        // Nothing was made: the library in use stays the one the next start opens.
+        M.DatabasePath = before;
+        C.dialogs.msgBox(QStringLiteral("Cannot create database - ") + name + QStringLiteral("\n") + e.text(),
+                         MsgButtons::OK, MsgIcon::Exclamation, QStringLiteral("Create Database"));
+        return;
+    }
+    try {
         C.data.database().Close();
         C.data.setDatabaseName(name);
         C.data.setRecordSource(QStringLiteral("SongData"));

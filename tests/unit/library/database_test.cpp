@@ -42,6 +42,18 @@ TEST_F(Database, CreatingAndChoosingLibraries) {
     EXPECT_EQ(M().DatabasePath, path("SonariumData.mdb"));
     EXPECT_EQ(read("Other.mdb"), QByteArray("not a database")) << "a user's file is never changed";
 
+    // A library that cannot be made says why, and the next start still opens the one in use.
+    tc.dialogs.clear();
+    tc.dialogs.answerFile(path("Missing/Folder/New.mdb")).answer(MsgResult::OK);
+    f.mnuCreateDatabase.Click();
+    ASSERT_EQ(tc.dialogs.shown().size(), 2u);
+    const QString said = tc.dialogs.shown()[1].text;
+    EXPECT_TRUE(said.startsWith("Cannot create database - " + path("Missing/Folder/New.mdb") + "\n")) << said.toStdString();
+    EXPECT_GT(said.size(), 30 + path("Missing/Folder/New.mdb").size());
+    EXPECT_EQ(M().DatabasePath, path("SonariumData.mdb"));
+    f.SaveConfig();
+    EXPECT_TRUE(read("Config.dat").contains(path("SonariumData.mdb").toUtf8()));
+
     tc.dialogs.clear();
     tc.dialogs.answerFile(path("New.mdb"));
     f.mnuCreateDatabase.Click();

@@ -36,7 +36,7 @@ protected:
     std::vector<std::shared_ptr<QStringList>> logs;
 };
 
-TEST_F(ViewsTest, AnImageButtonReportsMouseInTwipsAndAKeyPressAsAClickInTheMiddle) {
+TEST_F(ViewsTest, AnImageButtonReportsMouseInTwipsClicksDoubleClicksAndAKeyPressInTheMiddle) {
     auto* size = find<QAbstractButton>(main(), "imgSize");
     ASSERT_NE(size, nullptr);
     QStringList* log = record(form1().imgSize);
@@ -55,6 +55,13 @@ TEST_F(ViewsTest, AnImageButtonReportsMouseInTwipsAndAKeyPressAsAClickInTheMiddl
     mouse(*size, QEvent::MouseButtonDblClick, QPoint(0, 0), Qt::LeftButton);
     mouse(*size, QEvent::MouseButtonRelease, QPoint(0, 0), Qt::LeftButton);
     EXPECT_EQ(*log, QStringList({"down 1 0 0 0", "up 1 0 0 0", "click", "dblclick", "up 1 0 0 0"}));
+    // Without a double click of its own, the quick second press is a whole click.
+    form1().imgSize.onDblClick = nullptr;
+    log->clear();
+    click(*size, QPoint(0, 0));
+    mouse(*size, QEvent::MouseButtonDblClick, QPoint(0, 0), Qt::LeftButton);
+    mouse(*size, QEvent::MouseButtonRelease, QPoint(0, 0), Qt::LeftButton);
+    EXPECT_EQ(*log, QStringList({"down 1 0 0 0", "up 1 0 0 0", "click", "down 1 0 0 0", "click", "up 1 0 0 0"}));
 
     // By keyboard or a screen reader: the handlers that act on mouse-up still run.
     log->clear();

@@ -2,11 +2,14 @@
 // The base of every view: a Qt widget of kind `Base` bound to one control model. It reads the
 // model again on each of its change notifications, and feeds the mouse to the model the way
 // the platform's controls report it: MouseDown, MouseUp, Click on a left release inside the
-// control, and on a double click DblClick then MouseUp (no second MouseDown or Click).
+// control. A double click is DblClick then MouseUp (no second MouseDown or Click) only where
+// the model handles double clicks; anywhere else the quick second press is one more click,
+// MouseDown, Click, MouseUp, as push buttons count it.
 //
 // A view owns nothing of the model; the model must outlive it.
 #include <QMouseEvent>
 #include <QWidget>
+#include <utility>
 
 #include "controls/Control.h"
 #include "ui/views/ControlSync.h"
@@ -46,26 +49,37 @@ protected:
     bool clickOnRelease_ = true;
 
     void mousePressEvent(QMouseEvent* e) override {
+        quickClick_ = false;
         if (e->button() == Qt::LeftButton) leftPressed_ = true;
         feedDown(e);
         Base::mousePressEvent(e);
     }
     void mouseReleaseEvent(QMouseEvent* e) override {
-        const bool click = clickOnRelease_ && e->button() == Qt::LeftButton && leftPressed_ &&
-                           this->rect().contains(e->position().toPoint());
-        if (e->button() == Qt::LeftButton) leftPressed_ = false;
-        feedUp(e);
-        Base::mouseReleaseEvent(e);
+        const bool left = e->button() == Qt::LeftButton;
+        const bool click = clickOnRelease_ && left && leftPressed_ && this->rect().contains(e->position().toPoint());
+        // A quick second click reports its release last, after the click it makes.
+        const bool quick = left && std::exchange(quickClick_, false);
+        if (left) leftPressed_ = false;
+        if (!quick) feedUp(e);
+        Base::mouseReleaseEvent(e);  // a button's own click, if it makes one
         if (click) feed([this] { model_.Click(); });
+        if (quick) feedUp(e);
     }
     void mouseMoveEvent(QMouseEvent* e) override {
         feedMove(e);
         Base::mouseMoveEvent(e);
     }
     void mouseDoubleClickEvent(QMouseEvent* e) override {
-        // The second press of a double click is the double click itself.
-        if (e->button() == Qt::LeftButton) feed([this] { model_.DblClick(); });
-        else feedDown(e);
+        // The second press of a double click is the double click itself, for a control that
+        // handles one. Any other takes it as a press like the first (through the kind's own
+        // press, so a button goes down and a list picks), or quick clicks on Faster or Play
+        // would count as one.
+        if (e->button() == Qt::LeftButton && model_.onDblClick) {
+            feed([this] { model_.DblClick(); });
+            return;
+        }
+        this->mousePressEvent(e);
+        quickClick_ = e->button() == Qt::LeftButton;
     }
 
     // The focus came by keyboard (Tab, a mnemonic): only then is a focus ring drawn, so the
@@ -93,6 +107,7 @@ private:
     int subscription_ = 0;
     CommonState common_;
     bool leftPressed_ = false;
+    bool quickClick_ = false;  // the left button is down for a quick second click
     bool keyboardFocus_ = false;
 };
 

@@ -1,6 +1,7 @@
 // Each view kind against its model: user input reaches the model in the platform's terms and
 // order, and the widget shows what the model holds, also after the model's handlers change it.
 #include <QAbstractButton>
+#include <QAbstractScrollArea>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QLineEdit>
@@ -185,6 +186,35 @@ TEST_F(ViewsTest, TheDirectoryListMovesDownAndUpByDoubleClick) {
     mouse(*dirs->viewport(), QEvent::MouseButtonPress, QPoint(2, 2), Qt::RightButton);
     ASSERT_EQ(log->size(), 1);
     EXPECT_TRUE((*log)[0].startsWith("down 2 0"));
+}
+
+TEST_F(ViewsTest, AControlHearsThatItLostTheFocusToAnotherOneOfTheWindow) {
+    Form1& f = form1();
+    main().activateWindow();  // the window manager's part, which offscreen lacks
+    settle();
+    // During a scan the directory highlighted in Dir1 takes effect when the list loses the focus.
+    QDir(dir.path()).mkpath("Music/Jazz");
+    f.Dir1.setPath(dir.filePath("Music"));
+    f.SearchRunning = true;
+    auto* dirs = find<QListWidget>(main(), "Dir1");
+    click(*dirs->viewport(), dirs->visualItemRect(dirs->item(dirs->count() - 1)).center());
+    ASSERT_TRUE(dirs->hasFocus());
+    EXPECT_EQ(f.Dir1.Path(), dir.filePath("Music"));
+    auto* queue = find<QListWidget>(main(), "lstSongs");
+    click(*queue->viewport(), QPoint(5, 5));
+    EXPECT_EQ(f.Dir1.Path(), dir.filePath("Music/Jazz"));
+    f.SearchRunning = false;
+
+    // The genre list, opened over the grid with the focus, closes when the grid takes the focus.
+    f.PanelDatabase.setVisible(true);
+    f.ListGen.setVisible(true);
+    f.ListGen.SetFocus();
+    settle();
+    ASSERT_TRUE(find<QWidget>(main(), "ListGen")->hasFocus());
+    auto* grid = find<QAbstractScrollArea>(main(), "DBGrid1");
+    grid->setFocus(Qt::MouseFocusReason);  // what Qt does for a real press on it, not for a sent one
+    EXPECT_FALSE(f.ListGen.Visible());
+    EXPECT_FALSE(find<QWidget>(main(), "ListGen")->isVisible());
 }
 
 TEST_F(ViewsTest, ADropDownShowsItsRowsAndAPickFiresTheClick) {

@@ -4,9 +4,11 @@
 // the platform's controls report it: MouseDown, MouseUp, Click on a left release inside the
 // control. A double click is DblClick then MouseUp (no second MouseDown or Click) only where
 // the model handles double clicks; anywhere else the quick second press is one more click,
-// MouseDown, Click, MouseUp, as push buttons count it.
+// MouseDown, Click, MouseUp, as push buttons count it. Losing the keyboard focus to another
+// control of the window is the model's LostFocus.
 //
 // A view owns nothing of the model; the model must outlive it.
+#include <QApplication>
 #include <QMouseEvent>
 #include <QWidget>
 #include <utility>
@@ -89,6 +91,14 @@ protected:
         keyboardFocus_ = e->reason() == Qt::TabFocusReason || e->reason() == Qt::BacktabFocusReason ||
                          e->reason() == Qt::ShortcutFocusReason;
         Base::focusInEvent(e);
+    }
+    void focusOutEvent(QFocusEvent* e) override {
+        Base::focusOutEvent(e);
+        // Focus that leaves with the window (another program, a menu) stays the control's own,
+        // and so does focus that moves into the view's own parts (a grid's cell editor).
+        if (e->reason() == Qt::ActiveWindowFocusReason || e->reason() == Qt::PopupFocusReason) return;
+        if (QWidget* now = QApplication::focusWidget(); now && this->isAncestorOf(now)) return;
+        feed([this] { model_.LostFocus(); });
     }
 
     void feedDown(QMouseEvent* e) { feedMouse(e, &Control::MouseDown, buttonCode(e->button())); }

@@ -58,11 +58,4 @@ void TextBoxView::typeInside(int keyAscii) {
     setCursorPosition(std::min(typed.cursor, int(text().size())));
 }
 
-void TextBoxView::focusOutEvent(QFocusEvent* e) {
-    QLineEdit::focusOutEvent(e);
-    // Focus that leaves with the window (another program, a menu) stays the control's own.
-    if (e->reason() != Qt::ActiveWindowFocusReason && e->reason() != Qt::PopupFocusReason)
-        feed([this] { box_.LostFocus(); });
-}
-
 }  // namespace sonarium

@@ -18,7 +18,6 @@ public:
 protected:
     void syncOwn() override;
     void keyPressEvent(QKeyEvent* e) override;
-    void focusOutEvent(QFocusEvent* e) override;
 
 private:
     void typeInside(int keyAscii);

@@ -68,6 +68,8 @@ void Form1::wireHandlers() {
     mnuSaveSongSet.onClick = [this] { mnuSaveSongSet_Click(); };
     mnuLoadSongSet.onClick = [this] { mnuLoadSongSet_Click(); };
     mnuSongSets.onClick = [this] { mnuSongSets_Click(); };
+    mnuSongInfo.onClick = [this] { mnuSongInfo_Click(); };
+    mnuPhoto.onClick = [this] { mnuPhoto_Click(); };
     lstSongSets.onDblClick = [this] { lstSongSets_DblClick(); };
 
     cmdUpdateTag.onClick = [this] { UpdateTag(); };

@@ -1,9 +1,12 @@
 // A user's session in the real main window: a folder's songs queued from the title pane, played,
-// paused, switched by a click on a row, and faded; screenshots of each state.
+// paused, switched by a click on a row, and faded, its details seen from the View menu;
+// screenshots of each state.
 #include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 
 #include "WindowsFixture.h"
+#include "ui/views/MenuBarBinder.h"
 
 using namespace sonarium;
 
@@ -13,8 +16,13 @@ class PlaybackWindowTest : public WindowsFixture {
 protected:
     void SetUp() override {
         WindowsFixture::SetUp();
+        // The last song carries an ID3v1 tag, for the song's details to show.
+        const QByteArray tag = "TAG" + QByteArray("Northern Road").leftJustified(30, ' ') +
+                               QByteArray("Kite Runner").leftJustified(30, ' ') +
+                               QByteArray("Open Roads").leftJustified(30, ' ') + "1998" +
+                               QByteArray("Live take").leftJustified(30, ' ') + char(17);
         for (const char* name : {"Blue Night", "Harbour Lights", "Northern Road"}) {
-            write(QString::fromLatin1(name) + ".MP3", {});
+            write(QString::fromLatin1(name) + ".MP3", QByteArray(name) == "Northern Road" ? tag : QByteArray());
             tc.mp3.addFile(path(QString::fromLatin1(name) + ".MP3"), 7800, 204.0f, 192, 44100, 1);
         }
         program().Main();
@@ -79,6 +87,28 @@ TEST_F(PlaybackWindowTest, QueuePlayPauseSkipAndFadeFromTheWindow) {
     EXPECT_FALSE(M().SongPlaying);
     EXPECT_EQ(M().Volume, 35);
     saveScreenshot(main(), "stopped-after-fade.png");
+
+    // View: the song's details take the photo's place, and the photo comes back after the song sets.
+    QWidget* photo = find(main(), "PanelPhoto");
+    const QRect photoPlace(photo->mapTo(&main(), QPoint()), photo->size());
+    main().menus().actionOf(f.mnuSongInfo)->trigger();
+    settle();
+    EXPECT_FALSE(photo->isVisible());
+    auto* title = find<QLineEdit>(main(), "txtTitle");
+    ASSERT_TRUE(title->isVisible());
+    EXPECT_EQ(title->text().trimmed(), "Northern Road");  // shown as stored, blanks and all
+    for (const char* box : {"txtTitle", "txtArtist", "txtAlbum", "txtYear", "txtComment", "cboGenre", "cmdUpdateTag"}) {
+        QWidget* w = find(main(), QString::fromLatin1(box));
+        EXPECT_TRUE(w->isVisible()) << box;
+        EXPECT_TRUE(photoPlace.contains(QRect(w->mapTo(&main(), QPoint()), w->size()))) << box;
+    }
+    saveScreenshot(main(), "song-details.png");
+    main().menus().actionOf(f.mnuSongSets)->trigger();
+    main().menus().actionOf(f.mnuPhoto)->trigger();
+    settle();
+    EXPECT_TRUE(photo->isVisible());
+    for (const char* hidden : {"PanelSongInfo", "lstSongSets", "lblDoubleClick"})
+        EXPECT_FALSE(find(main(), QString::fromLatin1(hidden))->isVisible()) << hidden;
 }
 
 }  // namespace

@@ -1,0 +1,31 @@
+// The pane beside the queue shows one of three faces: the photo, the song's details (its tag
+// boxes and Update Tag) or the song sets. The View menu picks the face; the song sets' own
+// entry is with them.
+#include "controls/Errors.h"
+#include "shell/Form1.h"
+
+namespace sonarium {
+
+namespace {
+
+// The label under the song sets says how to load one: it goes with their list.
+void hideSongSets(ListBox& list, Label& label) {
+    tryStep([&] { list.setVisible(false); });
+    tryStep([&] { label.setVisible(false); });
+}
+
+}  // namespace
+
+void Form1::mnuSongInfo_Click() {
+    tryStep([&] { PanelPhoto.setVisible(false); });
+    tryStep([&] { PanelSongInfo.setVisible(true); });
+    hideSongSets(lstSongSets, lblDoubleClick);
+}
+
+void Form1::mnuPhoto_Click() {
+    tryStep([&] { PanelPhoto.setVisible(true); });
+    tryStep([&] { PanelSongInfo.setVisible(false); });
+    hideSongSets(lstSongSets, lblDoubleClick);
+}
+
+}  // namespace sonarium

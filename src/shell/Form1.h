@@ -48,6 +48,7 @@ public:
     void Form_KeyDown(int& keyCode, int shift);
     void Form_QueryUnload(bool& cancel);
     void Form_Unload();
+    void EndOnSignal();
     void mnuQuit_Click();
     void SQuit_Click();
     void mnuContents_Click();

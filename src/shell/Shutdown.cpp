@@ -33,6 +33,17 @@ void Form1::Form_Unload() {
     C.desktop.quit(0);
 }
 
+// A logout, a shutdown or a kill is no window close: whatever the program is doing (a paused
+// song, an open dialog, the mini player) it saves both settings files and asks to end at once,
+// without waiting for the song. The volume saved is the listener's, as after a normal stop.
+void Form1::EndOnSignal() {
+    if (M.SongPlaying) M.Volume = SavedVolume;
+    tryStep([&] { C.mp3.Close(); });
+    tryStep([&] { SaveConfig(); });
+    tryStep([&] { SaveMixer(); });
+    C.desktop.quit(0);
+}
+
 // The next start opens the main window, whatever mode this one was in.
 void Form1::mnuQuit_Click() {
     M.MiniMode = 0;

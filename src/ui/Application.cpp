@@ -38,7 +38,7 @@ Application::Application(const QStringList& arguments)
                   processes_, commandLineOf(arguments), QDir::currentPath()},
       program_(components_),
       views_(program_),
-      signals_([this] { views_.main().requestClose(); }),
+      signals_([this] { program_.form1.EndOnSignal(); }, std::chrono::seconds(3)),
       mediaControls_(program_.form1) {
     dialogs_.setParentWidget(&views_.main());
     mpris_ = MprisService::start(mediaControls_, {&views_.main(), &views_.miniPlayer()});

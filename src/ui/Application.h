@@ -2,7 +2,8 @@
 // Builds the real program: the Qt event loop, dialogs and desktop, the picture loader, the
 // mounted volumes and the components (stand-ins until their engines land), the program's own
 // units, and the windows that mirror them. No singletons: each part is handed what it needs.
-// SIGTERM and SIGINT close the main window as its close button does, so settings are saved.
+// SIGTERM, SIGINT and SIGHUP save the settings and end the program at once, whatever it is
+// doing; the window's own close keeps its wait for the song.
 #include <QStringList>
 #include <memory>
 

@@ -1,6 +1,8 @@
 #include "ui/TerminationSignals.h"
 
 #include <QSocketNotifier>
+#include <semaphore.h>
+#include <atomic>
 #include <cerrno>
 #include <cstdio>
 #include <sys/socket.h>
@@ -9,8 +11,13 @@
 namespace sonarium {
 
 namespace {
-// The write end for the handler: a signal handler can reach nothing but globals.
+// What the handler reaches: a signal handler can reach nothing but globals.
 volatile std::sig_atomic_t writeFd = -1;
+sem_t* volatile watchdogWake = nullptr;
+// Set by the handler; the watchdog woken without it is being taken down.
+std::atomic<bool> signalled{false};
+// Outlives the object: a watchdog left on guard as the process ends may still be using it.
+sem_t wakeSemaphore;
 }  // namespace
 
 void TerminationSignals::handler(int) {
@@ -20,13 +27,15 @@ void TerminationSignals::handler(int) {
         const ssize_t n = ::write(writeFd, &byte, 1);  // a full pipe already holds a request
         (void)n;
     }
+    if (!signalled.exchange(true) && watchdogWake) sem_post(watchdogWake);
     errno = saved;
 }
 
-TerminationSignals::TerminationSignals(std::function<void()> onSignal, QObject* parent)
+TerminationSignals::TerminationSignals(std::function<void()> onSignal, std::chrono::milliseconds deadline,
+                                       QObject* parent)
     : QObject(parent), onSignal_(std::move(onSignal)) {
     if (::socketpair(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0, fds_) != 0) {
-        std::perror("sonarium: no socket pair for SIGTERM and SIGINT");
+        std::perror("sonarium: no socket pair for the termination signals");
         return;
     }
     writeFd = fds_[0];
@@ -37,19 +46,48 @@ TerminationSignals::TerminationSignals(std::function<void()> onSignal, QObject* 
         }
         if (onSignal_) onSignal_();
     });
+    signalled = false;
+    if (deadline.count() > 0 && sem_init(&wakeSemaphore, 0, 0) == 0) {
+        watchdogWake = &wakeSemaphore;
+        watchdog_ = std::thread([deadline] { watch(deadline); });
+    }
     struct sigaction sa {};
     sa.sa_handler = &TerminationSignals::handler;
     sigemptyset(&sa.sa_mask);
     sa.sa_flags = SA_RESTART;
     sigaction(SIGTERM, &sa, &oldTerm_);
     sigaction(SIGINT, &sa, &oldInt_);
+    sigaction(SIGHUP, &sa, &oldHup_);
+}
+
+void TerminationSignals::watch(std::chrono::milliseconds deadline) {
+    while (sem_wait(&wakeSemaphore) != 0 && errno == EINTR) {
+    }
+    if (!signalled) return;  // taken down without a signal
+    std::this_thread::sleep_for(deadline);
+    const char note[] = "sonarium: still running after a termination signal; ending now\n";
+    const ssize_t n = ::write(STDERR_FILENO, note, sizeof note - 1);
+    (void)n;
+    ::_exit(0);
 }
 
 TerminationSignals::~TerminationSignals() {
     if (fds_[0] < 0) return;
     sigaction(SIGTERM, &oldTerm_, nullptr);
     sigaction(SIGINT, &oldInt_, nullptr);
+    sigaction(SIGHUP, &oldHup_, nullptr);
     writeFd = -1;
+    if (watchdog_.joinable()) {
+        watchdogWake = nullptr;
+        if (signalled) {
+            // The process is ending on the signal: the watchdog stays on guard until it has.
+            watchdog_.detach();
+        } else {
+            sem_post(&wakeSemaphore);
+            watchdog_.join();
+            sem_destroy(&wakeSemaphore);
+        }
+    }
     delete notifier_;
     ::close(fds_[0]);
     ::close(fds_[1]);

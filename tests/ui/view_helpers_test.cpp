@@ -103,23 +103,23 @@ TEST(Startup, CommandLineAndPlatform) {
     EXPECT_EQ(platformFor("x11", "", ""), "");
 }
 
-TEST(TerminationSignals, SigtermAndSigintBecomeOneCallOnTheUiThreadEach) {
+TEST(TerminationSignals, SigtermSigintAndSighupBecomeOneCallOnTheUiThreadEach) {
     int calls = 0;
     {
-        TerminationSignals closeOnSignal([&] { ++calls; });
-        std::raise(SIGTERM);
-        for (int i = 0; i < 5 && calls == 0; ++i) QCoreApplication::processEvents();
-        EXPECT_EQ(calls, 1);
-        std::raise(SIGINT);
-        for (int i = 0; i < 5 && calls == 1; ++i) QCoreApplication::processEvents();
-        EXPECT_EQ(calls, 2);
+        TerminationSignals endOnSignal([&] { ++calls; }, std::chrono::milliseconds(0));
+        for (int sig : {SIGTERM, SIGINT, SIGHUP}) {
+            const int before = calls;
+            std::raise(sig);
+            for (int i = 0; i < 5 && calls == before; ++i) QCoreApplication::processEvents();
+            EXPECT_EQ(calls, before + 1) << sig;
+        }
     }
     // The old handlers are back: ignoring SIGINT now reaches no close path.
     auto old = std::signal(SIGINT, SIG_IGN);
     std::raise(SIGINT);
     std::signal(SIGINT, old);
     QCoreApplication::processEvents();
-    EXPECT_EQ(calls, 2);
+    EXPECT_EQ(calls, 3);
 }
 
 }  // namespace

@@ -50,3 +50,16 @@ TEST_F(Shutdown, TheStickMenusQuitEndsAtOnceWithoutSaving) {
     EXPECT_EQ(tc.desktop.quitCode(), 0);
     EXPECT_FALSE(QFile::exists(path("Config.dat")));
 }
+
+TEST_F(Shutdown, ASignalSavesBothFilesAndEndsWithoutWaitingForThePausedSong) {
+    program().Main();
+    M().SongPlaying = true;
+    M().SongPaused = true;
+    form1().SavedVolume = 30;
+    M().Volume = 12;  // a fade under way
+    form1().EndOnSignal();
+    EXPECT_EQ(tc.desktop.quitCode(), 0);
+    EXPECT_TRUE(tc.mp3.calls().contains("Close"));
+    EXPECT_TRUE(read("Config.dat").endsWith("\r\n"));
+    EXPECT_TRUE(read("Mixer.dat").startsWith(" 30 \r\n")) << "the listener's volume, not the fade's";
+}

@@ -1,0 +1,141 @@
+// The real program as its own process on the silent output, from start to end. A termination
+// signal (a kill, a logout) ends it within five seconds whatever it is doing, here with a song
+// paused and with a modal question open, and both settings files are saved whole.
+#include <gtest/gtest.h>
+#include <signal.h>
+
+#include <QDataStream>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QThread>
+#include <cmath>
+#include <functional>
+
+namespace {
+
+constexpr int kEndWithinMs = 5000;
+
+bool waitFor(const std::function<bool()>& done, int ms = 20000) {
+    QElapsedTimer clock;
+    clock.start();
+    while (!done()) {
+        if (clock.elapsed() > ms) return false;
+        QThread::msleep(20);
+    }
+    return true;
+}
+
+QByteArray readAll(const QString& file) {
+    QFile f(file);
+    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
+}
+
+class ProgramProcess : public ::testing::Test {
+protected:
+    void SetUp() override { ASSERT_TRUE(home.isValid()); }
+    void TearDown() override {
+        if (program.state() != QProcess::NotRunning) {
+            program.kill();
+            program.waitForFinished();
+        }
+        if (bus.state() != QProcess::NotRunning) {
+            bus.kill();
+            bus.waitForFinished();
+        }
+    }
+
+    QString path(const QString& name) const { return home.filePath(name); }
+
+    void start(const QStringList& args, const QString& busAddress = {}) {
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert("QT_QPA_PLATFORM", "offscreen");
+        env.insert("SONARIUM_AUDIO", "null");
+        if (busAddress.isEmpty())
+            env.remove("DBUS_SESSION_BUS_ADDRESS");
+        else
+            env.insert("DBUS_SESSION_BUS_ADDRESS", busAddress);
+        program.setProcessEnvironment(env);
+        program.setWorkingDirectory(home.path());
+        program.setProcessChannelMode(QProcess::ForwardedChannels);
+        program.start(QStringLiteral(SONARIUM_PROGRAM), args);
+        ASSERT_TRUE(program.waitForStarted());
+    }
+
+    // Signals the program and reports whether it ended in time, by itself and without error.
+    bool endsOn(int sig) {
+        ::kill(pid_t(program.processId()), sig);
+        return program.waitForFinished(kEndWithinMs) && program.exitStatus() == QProcess::NormalExit &&
+               program.exitCode() == 0;
+    }
+
+    // Config.dat's twelve lines and Mixer.dat's levels and queue, each whole.
+    void expectSettingsSavedWith(const QString& queuedTitle) {
+        const QByteArray config = readAll(path("Config.dat"));
+        EXPECT_EQ(config.count("\r\n"), 12) << config.constData();
+        EXPECT_TRUE(config.endsWith("\r\n"));
+        const QByteArray mixer = readAll(path("Mixer.dat"));
+        EXPECT_TRUE(mixer.endsWith("\r\n")) << mixer.constData();
+        EXPECT_TRUE(mixer.contains(queuedTitle.toUtf8())) << mixer.constData();
+    }
+
+    // A 20-second tone encoded by the lame tool.
+    bool makeSong(const QString& mp3) {
+        const int rate = 22050, seconds = 20;
+        QByteArray pcm;
+        QDataStream out(&pcm, QIODevice::WriteOnly);
+        out.setByteOrder(QDataStream::LittleEndian);
+        for (int i = 0; i < rate * seconds; ++i) out << qint16(8000 * std::sin(i * 2 * M_PI * 440 / rate));
+        QProcess lame;
+        lame.start("lame", {"--silent", "-r", "-s", "22.05", "--bitwidth", "16", "--signed", "--little-endian",
+                            "-m", "m", "-", mp3});
+        lame.write(pcm);
+        lame.closeWriteChannel();
+        return lame.waitForFinished(60000) && lame.exitCode() == 0;
+    }
+
+    QString playerctl(const QString& address, const QStringList& args) {
+        QProcess ctl;
+        QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+        env.insert("DBUS_SESSION_BUS_ADDRESS", address);
+        ctl.setProcessEnvironment(env);
+        ctl.start("playerctl", QStringList{"-p", "sonarium"} + args);
+        ctl.waitForFinished(10000);
+        return QString::fromUtf8(ctl.readAllStandardOutput()).trimmed();
+    }
+
+    QTemporaryDir home;
+    QProcess program, bus;
+};
+
+TEST_F(ProgramProcess, AModalQuestionDoesNotHoldOffTheEnd) {
+    // A song that isn't there, named on the command line: "Open failed ... Retry?" stays up.
+    start({path("Missing.MP3")});
+    ASSERT_TRUE(waitFor([&] { return readAll(path("Debug.dat")).contains("Init 7"); }));
+    QThread::msleep(300);
+    ASSERT_EQ(program.state(), QProcess::Running);
+    EXPECT_TRUE(endsOn(SIGTERM));
+    expectSettingsSavedWith("Missing");
+}
+
+TEST_F(ProgramProcess, APausedSongDoesNotHoldOffTheEnd) {
+    if (QStandardPaths::findExecutable("dbus-daemon").isEmpty() || QStandardPaths::findExecutable("playerctl").isEmpty() ||
+        QStandardPaths::findExecutable("lame").isEmpty())
+        GTEST_SKIP() << "dbus-daemon, playerctl and lame are needed (tools/common.sh installs them)";
+    ASSERT_TRUE(makeSong(path("Tone.MP3")));
+    bus.start("dbus-daemon", {"--session", "--nofork", "--print-address"});
+    ASSERT_TRUE(bus.waitForReadyRead(20000));
+    const QString address = QString::fromUtf8(bus.readLine()).trimmed();
+
+    start({path("Tone.MP3")}, address);
+    ASSERT_TRUE(waitFor([&] { return playerctl(address, {"status"}) == "Playing"; }));
+    playerctl(address, {"pause"});
+    ASSERT_TRUE(waitFor([&] { return playerctl(address, {"status"}) == "Paused"; }));
+    EXPECT_TRUE(endsOn(SIGHUP));
+    expectSettingsSavedWith("Tone");
+}
+
+}  // namespace

@@ -22,16 +22,29 @@ const unsigned char* bytesOf(const QByteArray& a) {
     return reinterpret_cast<const unsigned char*>(a.constData());
 }
 
+// A free-format header states no size: another free-format header of its stream further on
+// confirms it.
+bool freeFormatFollows(const QByteArray& piece, qint64 at, const FrameHeader& h) {
+    const unsigned char* p = bytesOf(piece);
+    for (qint64 j = at + 4; j + 4 <= piece.size(); ++j) {
+        const auto h2 = p[j] == 0xff ? frameHeader(p + j) : std::nullopt;
+        if (h2 && h2->kbps == 0 && h2->sameStream(h)) return true;
+    }
+    return false;
+}
+
 // The first offset at or after `from` where a frame starts that the next one confirms, or -1.
-// A free-format header cannot be confirmed by its size: it is taken as found.
-qint64 sync(const QByteArray& piece, qint64 from) {
+qint64 sync(const QByteArray& piece, qint64 from, const FrameHeader* stream) {
     const unsigned char* p = bytesOf(piece);
     const qint64 n = piece.size();
     for (qint64 i = from; i + 4 <= n; ++i) {
         if (p[i] != 0xff) continue;
         const auto h = frameHeader(p + i);
-        if (!h) continue;
-        if (h->kbps == 0) return i;
+        if (!h || (stream && (h->kbps == 0 || !h->sameStream(*stream)))) continue;
+        if (h->kbps == 0) {
+            if (freeFormatFollows(piece, i, *h)) return i;
+            continue;
+        }
         const qint64 next = i + h->bytes();
         if (next + 4 > n) continue;
         const auto h2 = frameHeader(p + next);
@@ -124,13 +137,13 @@ LengthHeader lengthHeader(const QByteArray& frame, const FrameHeader& h) {
     return found;
 }
 
-FrameRun walkFrames(const QByteArray& piece) {
+FrameRun walkFrames(const QByteArray& piece, const FrameHeader* stream) {
     FrameRun run;
     const unsigned char* p = bytesOf(piece);
     const qint64 n = piece.size();
     // Each pass synchronises, then walks until the frames stop; past damage it synchronises
     // again. Every step moves forward through the piece.
-    for (qint64 pos = sync(piece, 0); pos >= 0; pos = sync(piece, pos + 1)) {
+    for (qint64 pos = sync(piece, 0, stream); pos >= 0; pos = sync(piece, pos + 1, stream)) {
         if (!run.first) {
             run.first = frameHeader(p + pos);
             run.firstAt = pos;

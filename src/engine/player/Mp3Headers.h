@@ -49,7 +49,9 @@ struct LengthHeader {
 LengthHeader lengthHeader(const QByteArray& frame, const FrameHeader& h);
 
 // The frames found in a piece of a file: synchronised on a valid header followed by another
-// of the same stream, walked from frame to frame, and synchronised again past damage.
+// of the same stream, walked from frame to frame, and synchronised again past damage. Given
+// the `stream` the file began with, only its frames are looked for (audio data can hold what
+// looks like some header); else a free-format header counts once another like it follows.
 struct FrameRun {
     std::optional<FrameHeader> first;  // the first frame found
     qint64 firstAt = -1;               // its offset in the piece
@@ -62,6 +64,6 @@ struct FrameRun {
     bool freeFormat = false;           // the first header found is free format
 };
 
-FrameRun walkFrames(const QByteArray& piece);
+FrameRun walkFrames(const QByteArray& piece, const FrameHeader* stream = nullptr);
 
 }  // namespace sonarium

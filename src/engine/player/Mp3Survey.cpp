@@ -62,9 +62,9 @@ LengthSurvey surveyLength(QIODevice& file) {
     if (audio < 4 * kPiece || tailAt < start) return s;
     // A VBR file without a header may open with a run of frames at the lowest rate (silence),
     // so the rate must hold all through the file, not only at its start.
-    const FrameRun third = walkFrames(readAt(file, start + audio / 3, kPiece));
-    const FrameRun twoThirds = walkFrames(readAt(file, start + audio * 2 / 3, kPiece));
-    const FrameRun end = walkFrames(tail);
+    const FrameRun third = walkFrames(readAt(file, start + audio / 3, kPiece), &h);
+    const FrameRun twoThirds = walkFrames(readAt(file, start + audio * 2 / 3, kPiece), &h);
+    const FrameRun end = walkFrames(tail, &h);
     for (const FrameRun* run : {&first, &third, &twoThirds, &end})
         if (!sameConstantRate(*run, h)) return s;
 

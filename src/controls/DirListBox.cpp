@@ -87,10 +87,9 @@ void DirListBox::Refresh() {
 void DirListBox::readRows() {
     // One level only, and the type comes from the directory entry or one stat of it, so a
     // symlink that loops is at worst one entry that is not a directory.
-    const QStringList& names = listing_.read(path_).dirs;
-    rows_.clear();
-    for (const QString& n : names) rows_ << childPath(path_, n);
-    std::sort(rows_.begin(), rows_.end(), lessIgnoringCase);
+    // A listing kept unchanged keeps its rows too: a walk comes back to a parent of thousands
+    // of folders once per folder.
+    rows_ = listing_.read(path_).dirs;  // shared, not copied
 }
 
 }  // namespace sonarium

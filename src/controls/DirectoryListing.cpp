@@ -1,10 +1,13 @@
 #include "controls/DirectoryListing.h"
 
+#include "controls/FileNames.h"
+
 #include <dirent.h>
 #include <sys/stat.h>
 
 #include <QDir>
 #include <QFile>
+#include <algorithm>
 #include <cstring>
 #include <ctime>
 
@@ -26,6 +29,10 @@ bool stampOf(const QByteArray& dir, std::uint64_t& dev, std::uint64_t& ino, std:
     return true;
 }
 
+QString childPath(const QString& dir, const QString& name) {
+    return dir.endsWith(u'/') ? dir + name : dir + u'/' + name;
+}
+
 std::int64_t nowNs() {
     timespec t{};
     ::clock_gettime(CLOCK_REALTIME, &t);
@@ -38,11 +45,15 @@ const DirectoryListing::Entries& DirectoryListing::read(const QString& dir) {
     // The program's own resources (the built-in skin) are no directory of the system's.
     if (dir.startsWith(u':')) {
         const QDir qdir(dir);
-        none_.dirs = qdir.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Unsorted);
+        for (const QString& name : qdir.entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Unsorted))
+            none_.dirs << childPath(dir, name);
+        std::sort(none_.dirs.begin(), none_.dirs.end(), lessIgnoringCase);
         none_.files = qdir.entryList(QDir::Files, QDir::Unsorted);
+        none_.read = ++reads_;
         return none_;
     }
     none_ = {};
+    none_.read = ++reads_;
     const QByteArray path = QFile::encodeName(dir.isEmpty() ? QStringLiteral(".") : dir);
     Stamp stamp;
     if (!stampOf(path, stamp.dev, stamp.ino, stamp.nlink, stamp.mtime, stamp.ctime)) return none_;
@@ -58,6 +69,7 @@ const DirectoryListing::Entries& DirectoryListing::read(const QString& dir) {
     }
 
     Listing listing{dir, stamp, nowNs(), {}};
+    listing.entries.read = ++reads_;
     if (DIR* d = ::opendir(path.constData())) {
         const int fd = ::dirfd(d);
         while (const dirent* e = ::readdir(d)) {
@@ -69,11 +81,12 @@ const DirectoryListing::Entries& DirectoryListing::read(const QString& dir) {
                 struct stat st;
                 if (::fstatat(fd, e->d_name, &st, 0) == 0) isDir = S_ISDIR(st.st_mode), isFile = S_ISREG(st.st_mode);
             }
-            if (isDir) listing.entries.dirs << QFile::decodeName(e->d_name);
+            if (isDir) listing.entries.dirs << childPath(dir, QFile::decodeName(e->d_name));
             if (isFile) listing.entries.files << QFile::decodeName(e->d_name);
         }
         ::closedir(d);
     }
+    std::sort(listing.entries.dirs.begin(), listing.entries.dirs.end(), lessIgnoringCase);
     kept_.push_front(std::move(listing));
     if (kept_.size() > kKept) kept_.pop_back();
     return kept_.front().entries;

@@ -16,13 +16,14 @@ namespace sonarium {
 
 class DirectoryListing {
 public:
-    // The names of the visible (non-dot) sub-directories (symlinks to directories included)
-    // and of the visible regular files (symlinks to them included) of `dir`, each in the order
-    // read. A directory that cannot be read has neither. Resource paths (":/...") are listed
+    // The full paths of the visible (non-dot) sub-directories of `dir` (symlinks to
+    // directories included), sorted as folder lists show them, and the names of its visible
+    // regular files (symlinks to them included) in the order read. A directory that cannot be read has neither. Resource paths (":/...") are listed
     // too, never kept.
     struct Entries {
         QStringList dirs;
         QStringList files;
+        std::uint64_t read = 0;  // which read of this object made them: a new one, new entries
     };
     const Entries& read(const QString& dir);
 
@@ -41,6 +42,7 @@ private:
     static constexpr std::size_t kKept = 64;  // a walk's ancestors, and then some
 
     std::list<Listing> kept_;  // most recently used first
+    std::uint64_t reads_ = 0;
     Entries none_;  // what a directory that isn't kept lists
 };
 

@@ -34,7 +34,11 @@ void FileListBox::Refresh() {
 }
 
 void FileListBox::readRows() {
-    rows_ = matchNames(listing_.read(path_).files, pattern_);
+    const DirectoryListing::Entries& entries = listing_.read(path_);
+    if (entries.read == rowsRead_ && pattern_ == rowsPattern_) return;  // nothing new to match
+    rowsRead_ = entries.read;
+    rowsPattern_ = pattern_;
+    rows_ = matchNames(entries.files, pattern_);
 }
 
 }  // namespace sonarium

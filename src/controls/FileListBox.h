@@ -37,6 +37,8 @@ private:
     QString path_;
     QString pattern_ = QStringLiteral("*.MP3");
     DirectoryListing listing_;
+    std::uint64_t rowsRead_ = 0;  // the listing and pattern the rows were made from
+    QString rowsPattern_;
 };
 
 }  // namespace sonarium

@@ -165,7 +165,7 @@ TEST_F(FileBrowser, AnUnchangedDirectoryIsNotReadAgainAndAChangedOneIs) {
     ageDirectory();
     DirectoryListing listing;
     const DirectoryListing::Entries* first = &listing.read(music);
-    EXPECT_EQ(first->dirs, QStringList({"Jazz"}));
+    EXPECT_EQ(first->dirs, QStringList({music + "/Jazz"}));
     EXPECT_EQ(first->files, QStringList({"a.mp3"}));
     EXPECT_EQ(&listing.read(music), first) << "not read again";
 
@@ -176,9 +176,8 @@ TEST_F(FileBrowser, AnUnchangedDirectoryIsNotReadAgainAndAChangedOneIs) {
         return listing.read(music);
     };
     EXPECT_EQ(changed([&] { mkdir("A/Music/Blues"); }).dirs.size(), 2);
-    QStringList renamed = changed([&] { QDir(music).rename("Blues", "Soul"); }).dirs;
-    renamed.sort();
-    EXPECT_EQ(renamed, QStringList({"Jazz", "Soul"}));
+    EXPECT_EQ(changed([&] { QDir(music).rename("Blues", "Soul"); }).dirs,
+              QStringList({music + "/Jazz", music + "/Soul"}));
     EXPECT_EQ(changed([&] { QFile::remove(music + "/a.mp3"); }).files, QStringList());
 }
 

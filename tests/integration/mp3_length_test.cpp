@@ -1,13 +1,16 @@
 // The length Open finds without decoding a file, against the truth of decoding it to its end
 // with the mpg123 tool: how each kind of file was judged (header, constant rate, full scan),
 // the frame count within one frame, the length within one frame's time, and decoding through
-// the player to the file's real end even where the count is an estimate.
+// the player to the file's real end even where the count is an estimate. What the survey says
+// in place of the decoder (format, mode, stated rate, and for a header's count the trimmed
+// length) is held against libmpg123's own report on the same file, so the two cannot drift.
 #include <gtest/gtest.h>
 
 #include <QFile>
 #include <QTemporaryDir>
 #include <algorithm>
 #include <cmath>
+#include <mpg123.h>
 
 #include "engine/player/Mp3Survey.h"
 #include "fixtures/Files.h"
@@ -84,11 +87,52 @@ QByteArray withId3v2(const QByteArray& audio) {
     return tag + QByteArray(size, '\0') + audio;
 }
 
+// An Xing header counting frames, with no LAME extension: the decoder trims only its own delay.
+QByteArray xingWithoutLame() {
+    const QByteArray rest = constantRate(128, 300);
+    return headerFrame("Xing" + bigEndian(1) + bigEndian(300)) + rest;
+}
+
+// --- What libmpg123 reports after opening a file as the player sets it up ---
+
+struct LibraryView {
+    bool opened = false;
+    long rate = 0;
+    int channels = 0;
+    mpg123_frameinfo frame{};
+    off_t frames = 0, samples = 0;
+};
+
+LibraryView libraryView(const QString& path) {
+    LibraryView v;
+    mpg123_init();
+    mpg123_handle* m = mpg123_new(nullptr, nullptr);
+    mpg123_param(m, MPG123_ADD_FLAGS, MPG123_GAPLESS | MPG123_QUIET, 0);
+    mpg123_format_none(m);
+    const long* rates = nullptr;
+    size_t count = 0;
+    mpg123_rates(&rates, &count);
+    for (size_t i = 0; i < count; ++i) mpg123_format(m, rates[i], MPG123_MONO | MPG123_STEREO, MPG123_ENC_SIGNED_16);
+    int encoding = 0;
+    v.opened = mpg123_open(m, QFile::encodeName(path).constData()) == MPG123_OK &&
+               mpg123_getformat(m, &v.rate, &v.channels, &encoding) == MPG123_OK &&
+               mpg123_info(m, &v.frame) == MPG123_OK;
+    v.frames = mpg123_framelength(m);
+    v.samples = mpg123_length(m);
+    mpg123_close(m);
+    mpg123_delete(m);
+    return v;
+}
+
 // --- The table ---
 
 struct LengthCase {
     const char* name;
     LengthSurvey::Method method;
+    // Whether the library's count and trimmed length without a scan are the survey's too: so
+    // for a header it reads as well; for a constant rate or VBRI its own are a guess from the
+    // size. Format, mode and stated rate always agree.
+    bool libraryLength;
     Mp3Recipe recipe;               // encoded with LAME unless made by hand
     QByteArray (*handMade)() = nullptr;
     bool id3v2 = false;             // an ID3v2 tag in front
@@ -98,24 +142,25 @@ void PrintTo(const LengthCase& c, std::ostream* os) { *os << c.name; }
 
 using M = LengthSurvey::Method;
 const LengthCase kCases[] = {
-    {"cbr128_no_info", M::ConstantRate, {.kbps = 128, .seconds = 6}},
-    {"cbr192_48k_info", M::XingFrames, {.rate = 48000, .kbps = 192, .info = true, .seconds = 4}},
-    {"cbr160_info_id3v2", M::XingFrames, {.kbps = 160, .info = true, .seconds = 4}, nullptr, true},
-    {"cbr256_no_info_id3v2_id3v1", M::ConstantRate, {.kbps = 256, .seconds = 4, .id3v1 = true}, nullptr, true},
-    {"cbr32_22k_mono", M::ConstantRate, {.rate = 22050, .channels = 1, .kbps = 32, .seconds = 8}},
-    {"vbr_xing", M::XingFrames, {.vbr = true, .seconds = 4}},
-    {"vbr_no_xing", M::Scan, {.vbr = true, .xing = false, .seconds = 4}},
-    {"vbr_xing_id3v2", M::XingFrames, {.vbr = true, .vbrQuality = 2, .seconds = 4}, nullptr, true},
-    {"vbr_48k_mono_xing", M::XingFrames, {.rate = 48000, .channels = 1, .vbr = true, .seconds = 4}},
-    {"vbr_22k_mono_xing", M::XingFrames, {.rate = 22050, .channels = 1, .vbr = true, .seconds = 4}},
-    {"vbr_24k_stereo_xing", M::XingFrames, {.rate = 24000, .vbr = true, .seconds = 4}},
-    {"free_format", M::Scan, {.kbps = 200, .freeFormat = true, .seconds = 4}},
-    {"vbri", M::VbriFrames, {}, vbriFile},
-    {"xing_without_frames", M::Scan, {}, xingWithoutFrames},
-    {"silent_start_vbr", M::Scan, {}, silentStartVbr},
+    {"cbr128_no_info", M::ConstantRate, false, {.kbps = 128, .seconds = 6}},
+    {"cbr192_48k_info", M::XingFrames, true, {.rate = 48000, .kbps = 192, .info = true, .seconds = 4}},
+    {"cbr160_info_id3v2", M::XingFrames, true, {.kbps = 160, .info = true, .seconds = 4}, nullptr, true},
+    {"cbr256_no_info_id3v2_id3v1", M::ConstantRate, false, {.kbps = 256, .seconds = 4, .id3v1 = true}, nullptr, true},
+    {"cbr32_22k_mono", M::ConstantRate, false, {.rate = 22050, .channels = 1, .kbps = 32, .seconds = 8}},
+    {"vbr_xing", M::XingFrames, true, {.vbr = true, .seconds = 4}},
+    {"vbr_no_xing", M::Scan, false, {.vbr = true, .xing = false, .seconds = 4}},
+    {"vbr_xing_id3v2", M::XingFrames, true, {.vbr = true, .vbrQuality = 2, .seconds = 4}, nullptr, true},
+    {"vbr_48k_mono_xing", M::XingFrames, true, {.rate = 48000, .channels = 1, .vbr = true, .seconds = 4}},
+    {"vbr_22k_mono_xing", M::XingFrames, true, {.rate = 22050, .channels = 1, .vbr = true, .seconds = 4}},
+    {"vbr_24k_stereo_xing", M::XingFrames, true, {.rate = 24000, .vbr = true, .seconds = 4}},
+    {"free_format", M::Scan, false, {.kbps = 200, .freeFormat = true, .seconds = 4}},
+    {"vbri", M::VbriFrames, false, {}, vbriFile},
+    {"xing_without_frames", M::Scan, false, {}, xingWithoutFrames},
+    {"xing_without_lame", M::XingFrames, true, {}, xingWithoutLame},
+    {"silent_start_vbr", M::Scan, false, {}, silentStartVbr},
     // Never padded: the mean frame size would count these 2,000 frames 5 short.
-    {"cbr_unpadded", M::ConstantRate, {}, [] { return constantRate(128, 2000, false); }},
-    {"cbr_junk_before_tag", M::ConstantRate, {},
+    {"cbr_unpadded", M::ConstantRate, false, {}, [] { return constantRate(128, 2000, false); }},
+    {"cbr_junk_before_tag", M::ConstantRate, false, {},
      [] { return constantRate(128, 600) + QByteArray(2000, '\0') + fixtureTag(); }},
 };
 
@@ -139,7 +184,21 @@ TEST_P(Mp3LengthTest, CountAndLengthWithinAFrameOfTheDecodedFile) {
     ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
     file.close();
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_EQ(surveyLength(file).method, c.method);
+    const LengthSurvey survey = surveyLength(file);
+    EXPECT_EQ(survey.method, c.method);
+    if (survey.method != M::Scan) {
+        const LibraryView lib = libraryView(mp3);
+        ASSERT_TRUE(lib.opened);
+        EXPECT_EQ(survey.rate, lib.rate);
+        EXPECT_EQ(survey.channels, lib.channels);
+        EXPECT_EQ(survey.channelMode, int(lib.frame.mode));
+        const bool constant = lib.frame.vbr == MPG123_CBR && survey.method != M::VbriFrames;
+        EXPECT_EQ(survey.statedKbps, constant ? lib.frame.bitrate : 0);
+        if (c.libraryLength) {
+            EXPECT_EQ(survey.frames, lib.frames);
+            EXPECT_EQ(survey.samples, lib.samples);
+        }
+    }
 
     const QString raw = dir.filePath("raw.wav"), trimmed = dir.filePath("tool.wav"), ours = dir.filePath("ours.wav");
     ASSERT_EQ(mpg123ToWav(mp3, raw, {"--no-gapless"}), 0);

@@ -8,6 +8,12 @@ void Id3v1Editor::open(const QString& path) {
     changes_ = {};
 }
 
+void Id3v1Editor::open(const QString& path, const QByteArray& lastBytes) {
+    path_ = path;
+    tag_ = readId3v1(lastBytes);
+    changes_ = {};
+}
+
 bool Id3v1Editor::writeTag() {
     return !path_.isEmpty() && writeId3v1(path_, changes_);
 }

@@ -25,97 +25,107 @@ void initLibraryOnce() {
 
 }  // namespace
 
-Mp3Decoder::~Mp3Decoder() { close(); }
+Mp3Decoder::~Mp3Decoder() {
+    close();
+    if (handle_) mpg123_delete(handle_);
+}
 
 void Mp3Decoder::close() {
-    if (handle_) {
-        mpg123_close(handle_);
-        mpg123_delete(handle_);
-        handle_ = nullptr;
-    }
+    if (streamOpen_) mpg123_close(handle_);
+    streamOpen_ = false;
+    open_ = false;
+    path_.clear();
     info_ = {};
     position_ = 0;
     ended_ = false;
 }
 
-int Mp3Decoder::open(const QString& path) {
+int Mp3Decoder::open(const QString& path, QByteArray* fileEnd) {
     close();
+    if (fileEnd) fileEnd->clear();
+    if (path.isEmpty()) return 1;
     const QString resolved = resolveFileName(path);
+    // Only a regular file: opening a FIFO for reading would wait for a writer.
     const QFileInfo fi(resolved);
-    if (path.isEmpty() || !fi.isFile() || fi.size() == 0) return 1;
+    if (!fi.isFile() || fi.size() == 0) return 1;
     QFile file(resolved);
     if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) return 1;
     const LengthSurvey survey = surveyLength(file);
     file.close();
+    if (fileEnd) *fileEnd = survey.fileEnd;
+    path_ = QFile::encodeName(resolved);
 
-    initLibraryOnce();
-    int err = MPG123_OK;
-    handle_ = mpg123_new(nullptr, &err);
-    if (!handle_) return 1;
-    // Gapless as the mpg123 tool does by default, and no printouts for damaged files.
-    mpg123_param(handle_, MPG123_ADD_FLAGS, MPG123_GAPLESS | MPG123_QUIET, 0);
-    // Signed 16-bit only, at any rate and either channel count: the library then keeps the
-    // file's own rate and channel count.
-    mpg123_format_none(handle_);
-    const long* rates = nullptr;
-    size_t rateCount = 0;
-    mpg123_rates(&rates, &rateCount);
-    for (size_t i = 0; i < rateCount; ++i)
-        mpg123_format(handle_, rates[i], MPG123_MONO | MPG123_STEREO, MPG123_ENC_SIGNED_16);
-
-    if (mpg123_open(handle_, QFile::encodeName(resolved).constData()) != MPG123_OK || !probe(survey)) {
-        close();
-        return 1;
+    if (survey.method == LengthSurvey::Scan) {
+        if (!openStream() || !probeScanned()) {
+            close();
+            return 1;
+        }
+    } else {
+        info_.frames = static_cast<std::int32_t>(survey.frames);
+        info_.samples = survey.samples;
+        info_.exactCount = survey.method == LengthSurvey::XingFrames;
+        info_.rate = survey.rate;
+        info_.channels = survey.channels;
+        info_.channelMode = survey.channelMode;
+        info_.bitRate = survey.statedKbps;  // bitRate() below decides whether it stands
+        if (info_.samples < 0) {
+            close();
+            return 1;
+        }
     }
     info_.bitRate = bitRate(fi.size(), survey);
+    open_ = true;
     return 0;
 }
 
-// Reads the format and the length the survey found a way to; false when the file holds no
-// MPEG audio. The first frame is read here, and with it any Xing/Info header.
-bool Mp3Decoder::probe(const LengthSurvey& survey) {
-    if (survey.method == LengthSurvey::Scan && mpg123_scan(handle_) != MPG123_OK) return false;
+// The library on the open file, made when decoding first needs it. The handle is set up once:
+// gapless as the mpg123 tool does by default, no printouts for damaged files, and signed
+// 16-bit output at any rate and either channel count, so the file keeps its own format.
+bool Mp3Decoder::openStream() {
+    if (streamOpen_) return true;
+    if (!handle_) {
+        initLibraryOnce();
+        int err = MPG123_OK;
+        handle_ = mpg123_new(nullptr, &err);
+        if (!handle_) return false;
+        mpg123_param(handle_, MPG123_ADD_FLAGS, MPG123_GAPLESS | MPG123_QUIET, 0);
+        mpg123_format_none(handle_);
+        const long* rates = nullptr;
+        size_t rateCount = 0;
+        mpg123_rates(&rates, &rateCount);
+        for (size_t i = 0; i < rateCount; ++i)
+            mpg123_format(handle_, rates[i], MPG123_MONO | MPG123_STEREO, MPG123_ENC_SIGNED_16);
+    }
+    if (mpg123_open(handle_, path_.constData()) != MPG123_OK) {
+        mpg123_close(handle_);
+        return false;
+    }
+    streamOpen_ = true;
+    return true;
+}
+
+// A file whose length only its frames tell: the library counts them and reports the format;
+// false when the file holds no MPEG audio.
+bool Mp3Decoder::probeScanned() {
+    if (mpg123_scan(handle_) != MPG123_OK) return false;
     long rate = 0;
     int channels = 0, encoding = 0;
     if (mpg123_getformat(handle_, &rate, &channels, &encoding) != MPG123_OK) return false;
     if (encoding != MPG123_ENC_SIGNED_16 || rate <= 0 || (channels != 1 && channels != 2)) return false;
     mpg123_frameinfo frame{};
     if (mpg123_info(handle_, &frame) != MPG123_OK) return false;
-    off_t frames = mpg123_framelength(handle_);
-    off_t samples = mpg123_length(handle_);
-    bool exact = true;
-    switch (survey.method) {
-    case LengthSurvey::Scan:
-        break;
-    case LengthSurvey::XingFrames:
-        // The library read the same header, with its gapless trimming; should it have
-        // refused the header, only counting the frames tells.
-        if (frames != survey.frames) {
-            if (mpg123_scan(handle_) != MPG123_OK) return false;
-            frames = mpg123_framelength(handle_);
-            samples = mpg123_length(handle_);
-        }
-        break;
-    case LengthSurvey::VbriFrames:  // the library decodes this header's frame as audio
-    case LengthSurvey::ConstantRate:
-        if (survey.samplesPerFrame != mpg123_spf(handle_)) return false;
-        frames = static_cast<off_t>(survey.frames);
-        samples = frames * survey.samplesPerFrame;
-        exact = false;
-        break;
-    }
+    const off_t frames = mpg123_framelength(handle_);
+    const off_t samples = mpg123_length(handle_);
     if (frames <= 0 || frames > INT32_MAX || samples < 0) return false;
 
     info_.frames = static_cast<std::int32_t>(frames);
     info_.samples = samples;
-    info_.exactCount = exact;
+    info_.exactCount = true;
     info_.rate = static_cast<int>(rate);
     info_.channels = channels;
     info_.channelMode = static_cast<int>(frame.mode);
-    // The first frame's rate, for now: bitRate() decides whether it stands for the file. A
-    // VBRI file is VBR, though the library knows nothing of its header.
-    const bool constant = frame.vbr == MPG123_CBR && survey.method != LengthSurvey::VbriFrames;
-    info_.bitRate = constant ? frame.bitrate : 0;
+    // The first frame's rate, for now: bitRate() decides whether it stands for the file.
+    info_.bitRate = frame.vbr == MPG123_CBR ? frame.bitrate : 0;
     seekFrame(0);
     return true;
 }
@@ -134,9 +144,9 @@ int Mp3Decoder::bitRate(qint64 fileSize, const LengthSurvey& survey) const {
 }
 
 void Mp3Decoder::seekFrame(std::int32_t frame) {
-    if (!handle_) return;
+    if (!open_ && !streamOpen_) return;
     if (frame < 0) frame = 0;
-    if (frame >= info_.frames) {
+    if (frame >= info_.frames || !openStream()) {
         position_ = info_.frames;
         ended_ = true;
         return;
@@ -158,7 +168,11 @@ bool Mp3Decoder::formatUnchanged() const {
 }
 
 bool Mp3Decoder::next(DecodedFrame& out) {
-    if (!handle_ || ended_) return false;
+    if (!open_ || ended_) return false;
+    if (!openStream()) {
+        ended_ = true;
+        return false;
+    }
     int failures = 0;
     while (failures < kMaxFailuresInARow) {
         off_t num = 0;

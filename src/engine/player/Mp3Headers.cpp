@@ -1,5 +1,7 @@
 #include "engine/player/Mp3Headers.h"
 
+#include <utility>
+
 namespace sonarium {
 
 namespace {
@@ -51,6 +53,33 @@ qint64 sync(const QByteArray& piece, qint64 from, const FrameHeader* stream) {
         if (h2 && h2->kbps != 0 && h2->sameStream(*h)) return i;
     }
     return -1;
+}
+
+// The Xing fields from their flags at `at` on, each read only when the frame holds all of it:
+// frame count (flag 1), stream bytes (2), seek table (4), quality (8), then the 24 bytes of
+// a LAME extension when its first byte is not zero.
+void readXingFields(const QByteArray& frame, qint64 at, LengthHeader& found) {
+    const unsigned char* p = bytesOf(frame);
+    const qint64 n = frame.size();
+    const std::int64_t flags = bigEndian32(p + at);
+    at += 4;
+    if (flags & 1) {
+        if (n < at + 4) return;
+        found.frames = bigEndian32(p + at);
+        at += 4;
+    }
+    for (const auto& [flag, bytes] : {std::pair{2, 4}, std::pair{4, 100}, std::pair{8, 4}}) {
+        if (!(flags & flag)) continue;
+        if (n < at + bytes) return;
+        at += bytes;
+    }
+    if (n < at + 24 || p[at] == 0) return;
+    // Encoder name (9 bytes), then the revision and method nibbles: 1 and 8 constant, 2 and 9
+    // average, anything else variable.
+    const int method = p[at + 9] & 15;
+    found.variable = method != 1 && method != 8;
+    found.encoderDelay = (p[at + 21] << 4) | (p[at + 22] >> 4);
+    found.padding = ((p[at + 22] << 8) | p[at + 23]) & 0xfff;
 }
 
 }  // namespace
@@ -110,7 +139,8 @@ std::optional<FrameHeader> frameHeader(const unsigned char* p) {
     h.kbps = kBitRates[h.version == 1 ? 0 : 1][h.layer - 1][bitRateIndex];
     h.rate = kMpeg1Rates[rateIndex] >> (h.version - 1);
     h.padding = (p[2] & 2) != 0;
-    h.mono = (p[3] >> 6) == 3;
+    h.mode = p[3] >> 6;
+    h.mono = h.mode == 3;
     return h;
 }
 
@@ -120,13 +150,15 @@ LengthHeader lengthHeader(const QByteArray& frame, const FrameHeader& h) {
     LengthHeader found;
     const int side = h.version == 1 ? (h.mono ? 17 : 32) : (h.mono ? 9 : 17);
     const qint64 xing = 4 + side;
-    if (n >= xing + 8 && (frame.mid(xing, 4) == "Xing" || frame.mid(xing, 4) == "Info")) {
+    const QByteArray word = frame.mid(xing, 4);
+    if (h.layer == 3 && n >= xing + 8 && (word == "Xing" || word == "Info")) {
         // The decoder takes the tag only after zeros (a CRC may stand in the first two).
         bool zeros = true;
         for (qint64 i = 6; i < xing; ++i) zeros = zeros && p[i] == 0;
         if (zeros) {
             found.kind = LengthHeader::Xing;
-            if ((bigEndian32(p + xing + 4) & 1) && n >= xing + 12) found.frames = bigEndian32(p + xing + 8);
+            found.variable = word == "Xing";
+            readXingFields(frame, xing + 4, found);
         }
     } else if (constexpr qint64 vbri = 36; n >= vbri + 18 && frame.mid(vbri, 4) == "VBRI") {
         // "VBRI", version, delay, quality (2 bytes each), stream bytes, then frames.

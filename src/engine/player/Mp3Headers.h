@@ -19,6 +19,7 @@ struct FrameHeader {
     int rate = 0;
     bool padding = false;
     bool mono = false;
+    int mode = 0;     // 0 stereo, 1 joint stereo, 2 dual channel, 3 mono
 
     int samples() const;  // per channel
     int bytes() const;    // this frame's, padding included; 0 for free format
@@ -41,11 +42,17 @@ std::optional<FrameHeader> frameHeader(const unsigned char* p);
 struct LengthHeader {
     enum Kind { None, Xing, Vbri } kind = None;  // Xing covers its CBR twin "Info"
     std::int64_t frames = -1;                    // -1: the header states no frame count
+    // What the decoder takes the stream for: "Xing" variable, "Info" constant, unless the
+    // LAME extension after either names its method (constant, average or variable).
+    bool variable = false;
+    // Samples the encoder added in front and at the end, from the LAME extension; 0 without.
+    int encoderDelay = 0;
+    int padding = 0;
 };
 
 // The Xing/Info or VBRI header of the frame `h` whose bytes (whole or cut short) are `frame`.
-// Xing stands where the side information would, after zeros, as the decoder looks for it;
-// VBRI stands 32 bytes after the frame header in every mode.
+// Xing stands where the side information would, after zeros, in layer III only, as the
+// decoder looks for it; VBRI stands 32 bytes after the frame header in every mode.
 LengthHeader lengthHeader(const QByteArray& frame, const FrameHeader& h);
 
 // The frames found in a piece of a file: synchronised on a valid header followed by another

@@ -79,8 +79,17 @@ std::int16_t Mp3Play::Open(const QString& file, const QString& wav) {
     Close();
     // The program has moved on to another file: StreamEnds still on their way are dropped.
     ends_.opened();
-    tags_.open(file);  // the tag is read whether or not the audio opens
-    if ((!wav.isEmpty() && sameFile(file, wav)) || decoder_.open(file) != 0) {
+    // The tag is read whether or not the audio opens; the decoder's read of the file's end
+    // holds it.
+    if (!wav.isEmpty() && sameFile(file, wav)) {
+        tags_.open(file);
+        ends_.closed();
+        return 1;
+    }
+    QByteArray fileEnd;
+    const int failed = decoder_.open(file, &fileEnd);
+    tags_.open(file, fileEnd);
+    if (failed) {
         ends_.closed();
         return 1;
     }

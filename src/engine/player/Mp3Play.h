@@ -10,6 +10,10 @@
 //   details cached at Open, and talks to the worker through the run's commands (pause, seek,
 //   stop) and the atomics of speed and notify interval. SoundProcessor::setVolume is safe
 //   from any thread.
+// - Open learns the details from the file's headers alone; libmpg123 opens the file (and its
+//   handle is made, once per player) on the worker, when the run's first seek or decode needs
+//   it. Only a file whose frames must be counted has libmpg123 open it at Open, on the UI
+//   thread, after Close has joined any run.
 // - The worker never touches the program: it posts FrameNotify and StreamEnd through
 //   EventLoop::post, and the posted calls run here on the UI thread.
 // - Stale notifications: every FrameNotify carries the epoch of its run, which moves on at

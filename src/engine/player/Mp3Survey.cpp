@@ -1,5 +1,6 @@
 #include "engine/player/Mp3Survey.h"
 
+#include <algorithm>
 #include <cmath>
 #include <initializer_list>
 
@@ -23,17 +24,43 @@ bool sameConstantRate(const FrameRun& run, const FrameHeader& first) {
            run.first->kbps == first.kbps && run.first->sameStream(first);
 }
 
+// The stream as the decoder will report it: the format of its first frame, and the mode and
+// rate of its first audio frame (after an Xing/Info frame, or the first frame itself).
+void describeStream(LengthSurvey& s, const FrameHeader& first, const FrameHeader& audio, bool variable) {
+    s.rate = first.rate;
+    s.channels = first.mono ? 1 : 2;
+    s.channelMode = audio.mode;
+    s.statedKbps = variable ? 0 : audio.kbps;
+}
+
+// The frame after the Xing/Info frame at `at` in `head`, or the Xing frame's own header
+// when the piece does not hold it.
+FrameHeader audioAfter(const QByteArray& head, qint64 at, const FrameHeader& h) {
+    const qint64 next = at + h.bytes();
+    if (next + 4 > head.size()) return h;
+    const auto audio = frameHeader(reinterpret_cast<const unsigned char*>(head.constData()) + next);
+    return audio && audio->kbps != 0 && audio->sameStream(h) ? *audio : h;
+}
+
 }  // namespace
+
+std::int64_t gaplessSamples(std::int64_t frames, int samplesPerFrame, int encoderDelay, int padding) {
+    constexpr int kDecoderDelay = 529;
+    const std::int64_t all = frames * samplesPerFrame;
+    return std::min(all, all - padding + kDecoderDelay) - (encoderDelay + kDecoderDelay);
+}
 
 LengthSurvey surveyLength(QIODevice& file) {
     LengthSurvey s;
     const qint64 size = file.size();
     QByteArray head = readAt(file, 0, kPiece);
+    const qint64 tailAt = std::max<qint64>(0, size - kPiece - kId3v1Bytes);
+    // A file no longer than the first read is read once.
+    QByteArray tail = tailAt == 0 && head.size() == size ? head : readAt(file, tailAt, size - tailAt);
+    s.fileEnd = tail.right(kId3v1Bytes);
     s.id3v2 = id3v2Size(head);
     if (s.id3v2 >= size) return s;
     if (s.id3v2 > 0) head = readAt(file, s.id3v2, kPiece);
-    const qint64 tailAt = std::max<qint64>(0, size - kPiece - kId3v1Bytes);
-    QByteArray tail = readAt(file, tailAt, size - tailAt);
     s.id3v1 = size >= kId3v1Bytes && tail.size() >= kId3v1Bytes && tail.right(kId3v1Bytes).startsWith("TAG");
     if (s.id3v1) tail.chop(kId3v1Bytes);
     const qint64 audioLimit = size - (s.id3v1 ? kId3v1Bytes : 0);
@@ -45,15 +72,26 @@ LengthSurvey surveyLength(QIODevice& file) {
     s.samplesPerFrame = h.samples();
 
     const qint64 audio = audioLimit - start;
-    const LengthHeader stated = lengthHeader(head.mid(first.firstAt, h.bytes()), h);
+    QByteArray headerFrame = head.mid(first.firstAt, h.bytes());
+    if (headerFrame.size() < h.bytes()) headerFrame = readAt(file, start, h.bytes());
+    const LengthHeader stated = lengthHeader(headerFrame, h);
     if (stated.kind != LengthHeader::None) {
         // A header without a frame count: its frame is no audio, so bytes would not count. A
         // count the file's bytes could not hold at any rate is a lie: the frames are counted.
         const std::int64_t n = stated.frames;
         const bool plausible = n * h.smallestBytes() <= audio && n * h.largestBytes() >= audio - h.largestBytes();
-        if (n > 0 && n <= INT32_MAX && plausible) {
-            s.method = stated.kind == LengthHeader::Xing ? LengthSurvey::XingFrames : LengthSurvey::VbriFrames;
-            s.frames = stated.frames;
+        if (n <= 0 || n > INT32_MAX || !plausible) return s;
+        s.frames = n;
+        if (stated.kind == LengthHeader::Xing) {
+            // The decoder skips the Xing frame and trims as its LAME extension says.
+            s.method = LengthSurvey::XingFrames;
+            s.samples = gaplessSamples(n, s.samplesPerFrame, stated.encoderDelay, stated.padding);
+            describeStream(s, h, audioAfter(head, first.firstAt, h), stated.variable);
+        } else {
+            // The decoder knows no VBRI header: it plays that frame as audio and trims nothing.
+            s.method = LengthSurvey::VbriFrames;
+            s.samples = n * s.samplesPerFrame;
+            describeStream(s, h, h, true);
         }
         return s;
     }
@@ -76,7 +114,11 @@ LengthSurvey surveyLength(QIODevice& file) {
     const bool padded = first.padded || third.padded || twoThirds.padded || end.padded;
     const double frameBytes = padded ? h.meanBytes() : h.unpaddedBytes();
     s.frames = std::llround(double(audioEnd - start) / frameBytes);
-    if (s.frames > 0 && s.frames <= INT32_MAX) s.method = LengthSurvey::ConstantRate;
+    if (s.frames > 0 && s.frames <= INT32_MAX) {
+        s.method = LengthSurvey::ConstantRate;
+        s.samples = s.frames * s.samplesPerFrame;
+        describeStream(s, h, h, false);
+    }
     return s;
 }
 

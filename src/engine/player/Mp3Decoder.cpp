@@ -1,11 +1,14 @@
 #include "engine/player/Mp3Decoder.h"
 
 #include <QFile>
-#include <QFileInfo>
+#include <cerrno>
 #include <cmath>
 #include <cstdlib>
+#include <fcntl.h>
 #include <mpg123.h>
 #include <mutex>
+#include <sys/stat.h>
+#include <unistd.h>
 
 #include "controls/FileNames.h"
 #include "engine/player/Mp3Survey.h"
@@ -21,6 +24,24 @@ constexpr int kMaxFailuresInARow = 32;
 void initLibraryOnce() {
     static std::once_flag once;
     std::call_once(once, [] { mpg123_init(); });
+}
+
+// Non-blocking, so that a FIFO (which the caller then refuses) does not wait for a writer.
+int openForReading(const QByteArray& name) {
+    return ::open(name.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC);
+}
+
+QByteArray readAt(int fd, qint64 at, qint64 bytes) {
+    QByteArray out(bytes, Qt::Uninitialized);
+    qint64 got = 0;
+    while (got < bytes) {
+        const ssize_t n = ::pread(fd, out.data() + got, size_t(bytes - got), off_t(at + got));
+        if (n < 0 && errno == EINTR) continue;
+        if (n <= 0) break;
+        got += n;
+    }
+    out.truncate(got);
+    return out;
 }
 
 }  // namespace
@@ -44,16 +65,24 @@ int Mp3Decoder::open(const QString& path, QByteArray* fileEnd) {
     close();
     if (fileEnd) fileEnd->clear();
     if (path.isEmpty()) return 1;
-    const QString resolved = resolveFileName(path);
-    // Only a regular file: opening a FIFO for reading would wait for a writer.
-    const QFileInfo fi(resolved);
-    if (!fi.isFile() || fi.size() == 0) return 1;
-    QFile file(resolved);
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Unbuffered)) return 1;
-    const LengthSurvey survey = surveyLength(file);
-    file.close();
+    // The name as given first; only when that fails is it looked up without regard to case,
+    // which lists the directory.
+    QByteArray name = QFile::encodeName(path);
+    int fd = openForReading(name);
+    if (fd < 0) {
+        name = QFile::encodeName(resolveFileName(path));
+        fd = openForReading(name);
+    }
+    struct stat st {};
+    if (fd < 0 || ::fstat(fd, &st) != 0 || !S_ISREG(st.st_mode) || st.st_size == 0) {
+        if (fd >= 0) ::close(fd);
+        return 1;
+    }
+    const LengthSurvey survey =
+        surveyLength(st.st_size, [fd](qint64 at, qint64 bytes) { return readAt(fd, at, bytes); });
+    ::close(fd);
     if (fileEnd) *fileEnd = survey.fileEnd;
-    path_ = QFile::encodeName(resolved);
+    path_ = name;
 
     if (survey.method == LengthSurvey::Scan) {
         if (!openStream() || !probeScanned()) {
@@ -73,7 +102,7 @@ int Mp3Decoder::open(const QString& path, QByteArray* fileEnd) {
             return 1;
         }
     }
-    info_.bitRate = bitRate(fi.size(), survey);
+    info_.bitRate = bitRate(st.st_size, survey);
     open_ = true;
     return 0;
 }

@@ -14,10 +14,6 @@ namespace {
 constexpr qint64 kPiece = 4096;
 constexpr qint64 kId3v1Bytes = 128;
 
-QByteArray readAt(QIODevice& file, qint64 at, qint64 bytes) {
-    return file.seek(at) ? file.read(bytes) : QByteArray();
-}
-
 // Does this sample's frames agree with the first sample's?
 bool sameConstantRate(const FrameRun& run, const FrameHeader& first) {
     return run.first && !run.freeFormat && !run.otherStream && !run.mixedRates && run.frames > 0 &&
@@ -51,16 +47,21 @@ std::int64_t gaplessSamples(std::int64_t frames, int samplesPerFrame, int encode
 }
 
 LengthSurvey surveyLength(QIODevice& file) {
+    return surveyLength(file.size(), [&file](qint64 at, qint64 bytes) {
+        return file.seek(at) ? file.read(bytes) : QByteArray();
+    });
+}
+
+LengthSurvey surveyLength(qint64 size, const ReadAt& readAt) {
     LengthSurvey s;
-    const qint64 size = file.size();
-    QByteArray head = readAt(file, 0, kPiece);
+    QByteArray head = readAt(0, kPiece);
     const qint64 tailAt = std::max<qint64>(0, size - kPiece - kId3v1Bytes);
     // A file no longer than the first read is read once.
-    QByteArray tail = tailAt == 0 && head.size() == size ? head : readAt(file, tailAt, size - tailAt);
+    QByteArray tail = tailAt == 0 && head.size() == size ? head : readAt(tailAt, size - tailAt);
     s.fileEnd = tail.right(kId3v1Bytes);
     s.id3v2 = id3v2Size(head);
     if (s.id3v2 >= size) return s;
-    if (s.id3v2 > 0) head = readAt(file, s.id3v2, kPiece);
+    if (s.id3v2 > 0) head = readAt(s.id3v2, kPiece);
     s.id3v1 = size >= kId3v1Bytes && tail.size() >= kId3v1Bytes && tail.right(kId3v1Bytes).startsWith("TAG");
     if (s.id3v1) tail.chop(kId3v1Bytes);
     const qint64 audioLimit = size - (s.id3v1 ? kId3v1Bytes : 0);
@@ -73,7 +74,7 @@ LengthSurvey surveyLength(QIODevice& file) {
 
     const qint64 audio = audioLimit - start;
     QByteArray headerFrame = head.mid(first.firstAt, h.bytes());
-    if (headerFrame.size() < h.bytes()) headerFrame = readAt(file, start, h.bytes());
+    if (headerFrame.size() < h.bytes()) headerFrame = readAt(start, h.bytes());
     const LengthHeader stated = lengthHeader(headerFrame, h);
     if (stated.kind != LengthHeader::None) {
         // A header without a frame count: its frame is no audio, so bytes would not count. A
@@ -100,8 +101,8 @@ LengthSurvey surveyLength(QIODevice& file) {
     if (audio < 4 * kPiece || tailAt < start) return s;
     // A VBR file without a header may open with a run of frames at the lowest rate (silence),
     // so the rate must hold all through the file, not only at its start.
-    const FrameRun third = walkFrames(readAt(file, start + audio / 3, kPiece), &h);
-    const FrameRun twoThirds = walkFrames(readAt(file, start + audio * 2 / 3, kPiece), &h);
+    const FrameRun third = walkFrames(readAt(start + audio / 3, kPiece), &h);
+    const FrameRun twoThirds = walkFrames(readAt(start + audio * 2 / 3, kPiece), &h);
     const FrameRun end = walkFrames(tail, &h);
     for (const FrameRun* run : {&first, &third, &twoThirds, &end})
         if (!sameConstantRate(*run, h)) return s;

@@ -10,6 +10,7 @@
 // the decoder's gapless trimming. The player then needs the decoder only to play.
 #include <QIODevice>
 #include <cstdint>
+#include <functional>
 
 namespace sonarium {
 
@@ -34,6 +35,10 @@ struct LengthSurvey {
 // delay, and the encoder's padding (at least the decoder's own delay) at the end.
 std::int64_t gaplessSamples(std::int64_t frames, int samplesPerFrame, int encoderDelay, int padding);
 
+// Reads up to `bytes` of the file from offset `at`: fewer at its end, none on failure.
+using ReadAt = std::function<QByteArray(qint64 at, qint64 bytes)>;
+
+LengthSurvey surveyLength(qint64 fileSize, const ReadAt& readAt);
 // `file` is open for reading and seekable; where it stands afterwards is undefined.
 LengthSurvey surveyLength(QIODevice& file);
 

@@ -13,6 +13,7 @@
 #include <memory>
 #include <numeric>
 #include <random>
+#include <sys/stat.h>
 
 #include "fixtures/Files.h"
 #include "fixtures/Mp3Fixtures.h"
@@ -474,12 +475,26 @@ TEST(PlayerBadInputTest, NeverCrashesHangsOrChangesTheFile) {
         EXPECT_TRUE(fileBytes(path) == bytes) << "the file was changed";
     }
 
-    // Missing files and directories fail too.
+    // Missing files, directories and a FIFO (which must not wait for a writer) fail too.
     PlayerHarness h;
     EXPECT_EQ(h.player.Open(dir.filePath("missing.mp3"), ""), 1);
     EXPECT_EQ(h.player.Open(dir.path(), ""), 1);
     EXPECT_EQ(h.player.Open("", ""), 1);
+    const QString fifo = dir.filePath("pipe.mp3");
+    ASSERT_EQ(::mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
+    EXPECT_EQ(h.player.Open(fifo, ""), 1);
     EXPECT_EQ(h.player.SeekFrame(3), 1);
+
+    // The decoder opens the file only to play it: one gone by then ends the run at once.
+    const QString gone = dir.filePath("gone.mp3");
+    ASSERT_TRUE(QFile::copy(PlayerFiles::mp3(kCbr), gone));
+    ASSERT_EQ(h.player.Open(gone, dir.filePath("gone.wav")), 0);
+    ASSERT_TRUE(QFile::remove(gone));
+    h.player.Play();
+    h.waitForEnds();
+    h.settle();
+    EXPECT_EQ(h.ends, 1);
+    EXPECT_TRUE(h.frames.empty());
 }
 
 TEST(PlayerFreeFormatTest, DecodesLikeTheTool) {

@@ -49,6 +49,8 @@ const DirectoryListing::Entries& DirectoryListing::read(const QString& dir) {
             none_.dirs << childPath(dir, name);
         std::sort(none_.dirs.begin(), none_.dirs.end(), lessIgnoringCase);
         none_.files = qdir.entryList(QDir::Files, QDir::Unsorted);
+        for (const QString& name : qdir.entryList(QDir::AllEntries | QDir::NoDotAndDotDot, QDir::Unsorted))
+            none_.byFoldedName.insert(name.toCaseFolded(), name);
         none_.read = ++reads_;
         return none_;
     }
@@ -60,7 +62,9 @@ const DirectoryListing::Entries& DirectoryListing::read(const QString& dir) {
 
     for (auto it = kept_.begin(); it != kept_.end(); ++it) {
         if (it->dir != dir) continue;
-        if (it->stamp == stamp && it->readAt - std::max(stamp.mtime, stamp.ctime) > kRacyNs) {
+        // Entries that come or go move the modification time; the change time (which a
+        // change of times or permissions moves too) only has to stay as it was.
+        if (it->stamp == stamp && it->readAt - stamp.mtime > kRacyNs) {
             kept_.splice(kept_.begin(), kept_, it);
             return kept_.front().entries;
         }
@@ -73,7 +77,11 @@ const DirectoryListing::Entries& DirectoryListing::read(const QString& dir) {
     if (DIR* d = ::opendir(path.constData())) {
         const int fd = ::dirfd(d);
         while (const dirent* e = ::readdir(d)) {
-            if (e->d_name[0] == '.') continue;  // hidden, and "." and ".."
+            if (std::strcmp(e->d_name, ".") == 0 || std::strcmp(e->d_name, "..") == 0) continue;
+            const QString name = QFile::decodeName(e->d_name);
+            QString& named = listing.entries.byFoldedName[name.toCaseFolded()];
+            if (named.isEmpty() || name < named) named = name;
+            if (e->d_name[0] == '.') continue;  // hidden
             // The entry's type from the directory itself where it says; a symlink or an
             // unknown type costs one stat, which follows the link but never further.
             bool isDir = e->d_type == DT_DIR, isFile = e->d_type == DT_REG;
@@ -81,8 +89,8 @@ const DirectoryListing::Entries& DirectoryListing::read(const QString& dir) {
                 struct stat st;
                 if (::fstatat(fd, e->d_name, &st, 0) == 0) isDir = S_ISDIR(st.st_mode), isFile = S_ISREG(st.st_mode);
             }
-            if (isDir) listing.entries.dirs << childPath(dir, QFile::decodeName(e->d_name));
-            if (isFile) listing.entries.files << QFile::decodeName(e->d_name);
+            if (isDir) listing.entries.dirs << childPath(dir, name);
+            if (isFile) listing.entries.files << name;
         }
         ::closedir(d);
     }

@@ -7,6 +7,7 @@
 // A listing is trusted while the directory's identity, change times and link count are what
 // they were, and only when it was read well after the directory's last change: a change in
 // the same tick of the file system's clock as the read would leave the times as they were.
+#include <QHash>
 #include <QString>
 #include <QStringList>
 #include <cstdint>
@@ -23,6 +24,9 @@ public:
     struct Entries {
         QStringList dirs;
         QStringList files;
+        // Every entry, hidden ones and those of any type included, by its case-folded name;
+        // of names that differ only in case, the smallest in exact order.
+        QHash<QString, QString> byFoldedName;
         std::uint64_t read = 0;  // which read of this object made them: a new one, new entries
     };
     const Entries& read(const QString& dir);

@@ -2,7 +2,6 @@
 
 #include "controls/DirectoryListing.h"
 
-#include <dirent.h>
 #include <sys/stat.h>
 
 #include <QDir>
@@ -27,19 +26,13 @@ bool entryExists(const char* path) {
 // The entry of directory `dir` (bytes, as the system takes them) whose name equals `name`
 // without regard to case, or "" when none does. Should several differ only in case, the
 // smallest in exact order wins, so the answer does not depend on the order the system lists
-// them.
+// them. Each thread keeps the listings it read while their directories stay unchanged: a queue
+// of songs named ".mp3" asks for ".MP3" in the same folder once per row.
 QString findIgnoringCase(const std::string& dir, const QString& name) {
-    QString best;
-    DIR* d = ::opendir(dir.empty() ? "." : dir.c_str());
-    if (!d) return best;
-    while (const dirent* e = ::readdir(d)) {
-        if (std::strcmp(e->d_name, ".") == 0 || std::strcmp(e->d_name, "..") == 0) continue;
-        const QString entry = QFile::decodeName(e->d_name);
-        if (QString::compare(entry, name, Qt::CaseInsensitive) == 0 && (best.isEmpty() || entry < best))
-            best = entry;
-    }
-    ::closedir(d);
-    return best;
+    thread_local DirectoryListing listings;
+    const DirectoryListing::Entries& entries =
+        listings.read(QFile::decodeName(QByteArray::fromStdString(dir.empty() ? std::string(".") : dir)));
+    return entries.byFoldedName.value(name.toCaseFolded());
 }
 
 }  // namespace

@@ -105,6 +105,12 @@ TEST_F(ViewsTest, AListShowsTheModelAndAPickBecomesItsListIndex) {
     model.setListIndex(1);
     EXPECT_EQ(queue->currentRow(), 1);
     EXPECT_TRUE(queue->item(1)->isSelected());
+    // A row added at the end leaves the shown rows as they are.
+    const QListWidgetItem* first = queue->item(0);
+    model.AddItem("Four");
+    EXPECT_EQ(queue->item(0), first);
+    EXPECT_EQ(queue->item(2)->text(), "Four");
+    EXPECT_TRUE(queue->item(1)->isSelected());
     model.Clear();
     EXPECT_EQ(queue->count(), 0);
 }

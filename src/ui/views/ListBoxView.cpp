@@ -42,11 +42,20 @@ ListBoxView::ListBoxView(ListBox& model, QWidget* parent) : ControlView(model, p
 
 void ListBoxView::syncOwn() {
     syncing_ = true;
-    if (shownRows_ != list_.rows()) {
-        shownRows_ = list_.rows();
-        clear();
-        addItems(shownRows_);
-        shownTop_ = -1;  // place the top row again
+    const QStringList& rows = list_.rows();
+    if (shownRows_ != rows) {
+        // Rows added at the end, as a queue is filled one row at a time: only they are new,
+        // so filling a list of hundreds does not rebuild it once per row.
+        const qsizetype shown = shownRows_.size();
+        const bool appended = rows.size() > shown && std::equal(shownRows_.begin(), shownRows_.end(), rows.begin());
+        if (appended) {
+            addItems(rows.mid(shown));
+        } else {
+            clear();
+            addItems(rows);
+            shownTop_ = -1;  // place the top row again
+        }
+        shownRows_ = rows;
     }
     const int index = list_.ListIndex();
     if (currentRow() != index || (index >= 0 && !item(index)->isSelected())) {

@@ -164,10 +164,11 @@ TEST_F(FileBrowser, AnUnchangedDirectoryIsNotReadAgainAndAChangedOneIs) {
     };
     ageDirectory();
     DirectoryListing listing;
-    const DirectoryListing::Entries* first = &listing.read(music);
-    EXPECT_EQ(first->dirs, QStringList({music + "/Jazz"}));
-    EXPECT_EQ(first->files, QStringList({"a.mp3"}));
-    EXPECT_EQ(&listing.read(music), first) << "not read again";
+    const DirectoryListing::Entries& first = listing.read(music);
+    EXPECT_EQ(first.dirs, QStringList({music + "/Jazz"}));
+    EXPECT_EQ(first.files, QStringList({"a.mp3"}));
+    const std::uint64_t firstRead = first.read;
+    EXPECT_EQ(listing.read(music).read, firstRead) << "not read again";
 
     const auto changed = [&](const std::function<void()>& change) {
         ageDirectory();

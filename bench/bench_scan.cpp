@@ -202,8 +202,9 @@ int main(int argc, char** argv) {
         return 1;
     }
 
-    // Folder lists keep a directory's listing once it is older than the coarsest clock file
-    // systems keep (two seconds); a collection is rarely scanned the moment it was copied.
+    // Folder lists keep a directory's listing once it was read a tick of the file system's
+    // clock after the directory's last change, up to two seconds where times are whole
+    // seconds; a collection is rarely scanned the moment it was copied.
     std::this_thread::sleep_for(std::chrono::milliseconds(2500));
     const double floor1 = floorLoop(files);
     QString message;

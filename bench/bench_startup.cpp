@@ -4,7 +4,9 @@
 // mixer, started in a folder of its own as the README starts it.
 //
 // One song of 3 minutes at 128 kbit/s, constant bit rate with its Info frame, is made by the
-// `lame` tool once and copied, tagged, under as many names as the queue holds. Then, in turn:
+// `lame` tool once and copied, tagged, under as many names as the queue holds, with the lower-case
+// extension most collections have: the program names a row's file with ".MP3", so each is
+// found without regard to case in a folder of all of them. Then, in turn:
 //   empty  start-up with a Mixer.dat that holds no queue
 //   queue  start-up with the songs queued in Mixer.dat, which adds up the queue's time
 //   click  a mouse click on the queue's first row, which adds it up again and loads the song
@@ -162,7 +164,7 @@ int main(int argc, char** argv) {
     }
     QStringList songs;
     for (int i = 0; i < count; ++i) {
-        QFile f(QStringLiteral("%1/Song %2.MP3").arg(music).arg(i, 3, 10, QLatin1Char('0')));
+        QFile f(QStringLiteral("%1/Song %2.mp3").arg(music).arg(i, 3, 10, QLatin1Char('0')));
         if (!f.open(QIODevice::WriteOnly) || f.write(song) != song.size()) {
             std::fprintf(stderr, "could not write %s\n", qPrintable(f.fileName()));
             return 1;

@@ -14,9 +14,12 @@
 namespace sonarium {
 namespace {
 
-// Coarser file systems keep times to two seconds: a listing read closer than that to the
-// directory's last change may have missed a change the times cannot show.
-constexpr std::int64_t kRacyNs = 2'000'000'000;
+// A change within the same tick of the file system's clock as the directory's last one leaves
+// its time as it was, so a listing read within a tick of that time may have missed it. File
+// systems that keep fractions of a second tick with the kernel's coarse clock (a few ms); those
+// whose times are whole seconds (FAT keeps two) tick that slowly.
+constexpr std::int64_t kFineTickNs = 50'000'000;
+constexpr std::int64_t kCoarseTickNs = 2'000'000'000;
 
 std::int64_t ns(const timespec& t) { return std::int64_t(t.tv_sec) * 1'000'000'000 + t.tv_nsec; }
 
@@ -64,7 +67,8 @@ const DirectoryListing::Entries& DirectoryListing::read(const QString& dir) {
         if (it->dir != dir) continue;
         // Entries that come or go move the modification time; the change time (which a
         // change of times or permissions moves too) only has to stay as it was.
-        if (it->stamp == stamp && it->readAt - stamp.mtime > kRacyNs) {
+        const std::int64_t tick = stamp.mtime % 1'000'000'000 != 0 ? kFineTickNs : kCoarseTickNs;
+        if (it->stamp == stamp && it->readAt - stamp.mtime > tick) {
             kept_.splice(kept_.begin(), kept_, it);
             return kept_.front().entries;
         }

@@ -36,7 +36,7 @@
 #include "fixtures/Id3v1Block.h"
 #include "fixtures/Mp3Fixtures.h"
 #include "fixtures/ToolRunner.h"
-#include "ui/Application.h"
+#include "app/Application.h"
 #include "ui/GeneralWindow.h"
 #include "ui/MainWindow.h"
 

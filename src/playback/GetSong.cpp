@@ -1,11 +1,11 @@
 // Loading a queue row as the song: its tag, the player, length and frame rate, photo, info
 // pages, the mini player's text, its tone and its punch section. Nothing starts playing here.
 #include "controls/Errors.h"
-#include "playback/SongNames.h"
+#include "controls/SongNames.h"
 #include "playback/SongTag.h"
 #include "shell/Form1.h"
 #include "shell/TextFields.h"
-#include "skins/FrmMiniPlayer.h"
+#include "shell/FrmMiniPlayer.h"
 
 namespace sonarium {
 

@@ -6,7 +6,7 @@
 
 #include "controls/Errors.h"
 #include "controls/FileNames.h"
-#include "playback/SongNames.h"
+#include "controls/SongNames.h"
 #include "shell/Form1.h"
 
 namespace sonarium {

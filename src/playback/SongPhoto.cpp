@@ -1,6 +1,6 @@
 // The song's photo: found by name beside the song, sized to one of the two frames.
 #include "controls/Errors.h"
-#include "playback/SongNames.h"
+#include "controls/SongNames.h"
 #include "shell/Form1.h"
 #include "shell/TextFields.h"
 

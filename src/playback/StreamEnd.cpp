@@ -2,7 +2,7 @@
 // clears SongPlaying, and the only place that starts the next song.
 #include "controls/Errors.h"
 #include "shell/Form1.h"
-#include "skins/FrmMiniPlayer.h"
+#include "shell/FrmMiniPlayer.h"
 
 namespace sonarium {
 

@@ -3,7 +3,7 @@
 #include "controls/Errors.h"
 #include "controls/FileNames.h"
 #include "shell/Form1.h"
-#include "skins/FrmMiniPlayer.h"
+#include "shell/FrmMiniPlayer.h"
 
 namespace sonarium {
 

@@ -5,7 +5,7 @@
 #include "controls/Errors.h"
 #include "shell/Form1.h"
 #include "shell/TextFields.h"
-#include "skins/FrmMiniPlayer.h"
+#include "shell/FrmMiniPlayer.h"
 
 namespace sonarium {
 

@@ -3,11 +3,11 @@
 // windows. Main() is the entry procedure.
 #include "controls/Components.h"
 #include "controls/DriveDirectories.h"
-#include "conversion/Form2.h"
+#include "shell/Form2.h"
 #include "shell/Form1.h"
 #include "shell/FrmGeneral.h"
 #include "shell/Module1.h"
-#include "skins/FrmMiniPlayer.h"
+#include "shell/FrmMiniPlayer.h"
 
 namespace sonarium {
 

@@ -1,9 +1,9 @@
 // Closing the main window, the Quit command and the stick menu's immediate quit.
 #include "controls/Errors.h"
-#include "conversion/Form2.h"
+#include "shell/Form2.h"
 #include "shell/Form1.h"
 #include "shell/FrmGeneral.h"
-#include "skins/FrmMiniPlayer.h"
+#include "shell/FrmMiniPlayer.h"
 
 namespace sonarium {
 

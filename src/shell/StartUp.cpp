@@ -7,8 +7,8 @@
 #include "shell/AppFiles.h"
 #include "shell/Form1.h"
 #include "shell/FrmGeneral.h"
-#include "conversion/Form2.h"
-#include "skins/FrmMiniPlayer.h"
+#include "shell/Form2.h"
+#include "shell/FrmMiniPlayer.h"
 
 namespace sonarium {
 

@@ -2,7 +2,7 @@
 #include "controls/Errors.h"
 #include "shell/Form1.h"
 #include "shell/FrmGeneral.h"
-#include "skins/FrmMiniPlayer.h"
+#include "shell/FrmMiniPlayer.h"
 
 namespace sonarium {
 

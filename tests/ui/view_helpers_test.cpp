@@ -6,7 +6,7 @@
 
 #include "controls/Widgets.h"
 
-#include "ui/Application.h"
+#include "app/Application.h"
 #include "ui/TerminationSignals.h"
 #include "ui/views/ControlSync.h"
 #include "ui/views/KeyCodes.h"

@@ -5,7 +5,7 @@
 
 #include "PlaybackFixture.h"
 #include "integration/fixtures/Id3v1Block.h"
-#include "playback/SongNames.h"
+#include "controls/SongNames.h"
 
 using namespace sonarium;
 

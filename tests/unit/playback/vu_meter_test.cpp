@@ -2,7 +2,7 @@
 // overlap, the window they are written on, lamps off at the end of a stream, and the menu that
 // puts the panel in the song slider's place.
 #include "PlaybackFixture.h"
-#include "skins/FrmMiniPlayer.h"
+#include "shell/FrmMiniPlayer.h"
 
 using namespace sonarium;
 

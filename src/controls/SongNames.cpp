@@ -1,4 +1,4 @@
-#include "playback/SongNames.h"
+#include "controls/SongNames.h"
 
 namespace sonarium {
 

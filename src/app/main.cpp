@@ -2,7 +2,7 @@
 // until the program asks the desktop to quit.
 #include <QApplication>
 
-#include "ui/Application.h"
+#include "app/Application.h"
 
 int main(int argc, char** argv) {
     sonarium::Application::prepareProcess();

@@ -1,0 +1,18 @@
+# Fails when a file of the logic (controls, shell, playback, library, conversion, info, skins)
+# or of the UI includes a header of the engine: only the program's own target may see both.
+# Run by the build on every build: cmake -DSOURCE_DIR=<tree> -P LayerCheck.cmake
+set(offenders "")
+foreach(layer controls shell playback library conversion info skins ui)
+  file(GLOB_RECURSE files "${SOURCE_DIR}/src/${layer}/*.cpp" "${SOURCE_DIR}/src/${layer}/*.h")
+  foreach(file IN LISTS files)
+    file(STRINGS "${file}" lines REGEX "^[ \t]*#[ \t]*include[ \t]*[<\"]engine/")
+    if(lines)
+      file(RELATIVE_PATH rel "${SOURCE_DIR}" "${file}")
+      list(APPEND offenders "${rel}: ${lines}")
+    endif()
+  endforeach()
+endforeach()
+if(offenders)
+  list(JOIN offenders "\n  " text)
+  message(FATAL_ERROR "Logic and UI sources must not include engine headers:\n  ${text}")
+endif()

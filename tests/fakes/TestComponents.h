@@ -2,16 +2,14 @@
 // One of every fake, on one virtual clock, ready to hand to the program. Members are public so
 // a test scripts them directly: `tc.mp3.addFile(...)`, `tc.dialogs.answer(MsgResult::Yes)`.
 // The loop is declared first so that it outlives every fake that schedules on it.
-#include "FakeCdReader.h"
 #include "FakeDataControl.h"
 #include "FakeDesktop.h"
-#include "FakeEncoder.h"
 #include "FakeMixer.h"
 #include "FakePeakMeter.h"
 #include "FakePictureLoader.h"
 #include "FakePlayer.h"
-#include "FakeProcesses.h"
 #include "FakeVolumes.h"
+#include "IdleJobs.h"
 #include "ScriptedDialogs.h"
 #include "VirtualEventLoop.h"
 #include "controls/Components.h"
@@ -26,12 +24,12 @@ struct TestComponents {
     FakeVolumes volumes;
     FakePlayer mp3{loop};
     FakePlayer mp32{loop};
-    FakeEncoder encoder{loop};
-    FakeCdReader cd{loop};
+    IdleEncoder encoder;
+    IdleCdReader cd;
     FakeMixer mixer;
     FakePeakMeter peak;
     FakeDataControl data;
-    FakeProcesses processes{loop};
+    IdleProcesses processes;
     QString commandLine;
     QString startDir;
 

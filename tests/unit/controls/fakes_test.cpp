@@ -1,6 +1,6 @@
 // The contracts of the fakes that the logic's tests build on: when a fake player's
 // notifications come, that StreamEnd comes exactly once per run (also for a run that Close or
-// another Open ended) and never without a run, that job fakes finish once, and that scripted
+// another Open ended) and never without a run, and that scripted
 // dialogs answer in order, record what was shown and fail loudly on a question nobody
 // expected.
 #include <gtest/gtest-spi.h>
@@ -98,32 +98,6 @@ TEST_F(FakePlayerTest, OpenFailuresAndTagWrites) {
     tc.mp3.WriteTag();  // after Close, into the file of the last Open
     EXPECT_EQ(tc.mp3.tagOf("/m/a.mp3").genre, 17);
     EXPECT_EQ(tc.mp3.calls().mid(3), QStringList({"SetTagGenre(17)", "Close", "WriteTag"}));
-}
-
-TEST(FakeJobs, EncoderAndCdReaderFinishOncePerJob) {
-    TestComponents tc;
-    QStringList events;
-    tc.encoder.onEncodeProgress = [&](std::int32_t d) { events << QStringLiteral("enc %1").arg(d); };
-    tc.encoder.onEncodeFinished = [&] { events << QStringLiteral("enc end@%1").arg(tc.loop.now()); };
-    tc.encoder.setJob(1000, 2);
-    ASSERT_EQ(tc.encoder.OpenFiles("/c/Temp.WAV", "/c/T01.MP3"), 0);
-    EXPECT_EQ(tc.encoder.EncodeTotal(), 1000);
-    tc.encoder.StartEncoding();
-    tc.loop.advance(5000);
-    tc.encoder.StopEncoding();  // no job runs: no second finish
-    tc.loop.runUntilIdle();
-    EXPECT_EQ(events, QStringList({"enc 500", "enc 1000", "enc end@1000"}));
-
-    events.clear();
-    tc.cd.addDrive("cd0", {60000});
-    tc.cd.SelectDrive(1);
-    tc.cd.onExtractFinished = [&] { events << QStringLiteral("cd end@%1").arg(tc.loop.now()); };
-    ASSERT_EQ(tc.cd.ExtractTrack(1, "/c/Temp.WAV"), 0);
-    tc.loop.advance(3000);
-    tc.cd.StopExtract();
-    tc.cd.StopExtract();
-    tc.loop.advance(20000);
-    EXPECT_EQ(events, QStringList({"cd end@8000"}));
 }
 
 TEST(ScriptedDialogsTest, AnswersInOrderRecordsWhatWasShownAndFailsOnTheUnexpected) {

@@ -19,10 +19,6 @@ namespace {
     throw RuntimeError(RuntimeError::DeviceUnavailable, QStringLiteral("Device unavailable"));
 }
 
-QString childPath(const QString& dir, const QString& name) {
-    return dir.endsWith(u'/') ? dir + name : dir + u'/' + name;
-}
-
 }  // namespace
 
 DirListBox::DirListBox(QString name, Volumes& volumes, DriveDirectories& drives)

@@ -32,10 +32,6 @@ bool stampOf(const QByteArray& dir, std::uint64_t& dev, std::uint64_t& ino, std:
     return true;
 }
 
-QString childPath(const QString& dir, const QString& name) {
-    return dir.endsWith(u'/') ? dir + name : dir + u'/' + name;
-}
-
 std::int64_t nowNs() {
     timespec t{};
     ::clock_gettime(CLOCK_REALTIME, &t);

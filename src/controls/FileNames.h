@@ -37,4 +37,9 @@ QStringList matchNames(const QStringList& names, const QString& patterns);
 // that differ only in case in their exact order.
 bool lessIgnoringCase(const QString& a, const QString& b);
 
+// `name` inside directory `dir`: one slash between them, also after the root "/".
+inline QString childPath(const QString& dir, const QString& name) {
+    return dir.endsWith(u'/') ? dir + name : dir + u'/' + name;
+}
+
 }  // namespace sonarium

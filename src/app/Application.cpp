@@ -29,13 +29,14 @@ void Application::prepareProcess() {
 QString commandLineOf(const QStringList& arguments) { return arguments.mid(1).join(QLatin1Char(' ')); }
 
 Application::Application(const QStringList& arguments)
-    : mp3_(loop_, createAudioSink, tone_, peakLevel_),
+    : loop_(errors_),
+      mp3_(loop_, createAudioSink, tone_, peakLevel_),
       mp32_(loop_, createAudioSink, tone_, peakLevel_),
       mixer_(tone_),
       peak_(peakLevel_),
       components_{loop_,  dialogs_, desktop_, pictures_, volumes_,    mp3_,
                   mp32_,  encoder_, cd_,      mixer_,    peak_,       data_,
-                  processes_, commandLineOf(arguments), QDir::currentPath()},
+                  processes_, errors_, commandLineOf(arguments), QDir::currentPath()},
       program_(components_),
       views_(program_),
       signals_([this] { program_.form1.EndOnSignal(); }, std::chrono::seconds(3)),
@@ -47,7 +48,7 @@ Application::Application(const QStringList& arguments)
 Application::~Application() = default;
 
 void Application::start() {
-    QTimer::singleShot(0, &views_.main(), [this] { feed([this] { program_.Main(); }); });
+    QTimer::singleShot(0, &views_.main(), [this] { feed(errors_, [this] { program_.Main(); }); });
 }
 
 }  // namespace sonarium

@@ -7,6 +7,7 @@
 #include <QStringList>
 #include <memory>
 
+#include "app/DebugErrorLog.h"
 #include "controls/Components.h"
 #include "engine/EngineMixer.h"
 #include "engine/EnginePeakMeter.h"
@@ -46,6 +47,7 @@ public:
     Views& views() { return views_; }
 
 private:
+    DebugErrorLog errors_;
     QtEventLoop loop_;
     QtDialogs dialogs_;
     QtDesktop desktop_;

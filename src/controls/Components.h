@@ -8,6 +8,7 @@
 #include "controls/DataControl.h"
 #include "controls/Desktop.h"
 #include "controls/Dialogs.h"
+#include "controls/Errors.h"
 #include "controls/EventLoop.h"
 #include "controls/Mp3Encoder.h"
 #include "controls/Mp3Player.h"
@@ -32,6 +33,7 @@ struct Components {
     PeakMeter& peak;
     DataControl& data;
     ChildProcesses& processes;
+    ErrorReporter& errors;  // failures that the skip-on-error rule swallows
     // The command line as one string, taken whole (no splitting, no removal of quotes).
     QString commandLine;
     // The directory that is current when the program starts; its own files live there.

@@ -21,8 +21,8 @@ namespace {
 
 }  // namespace
 
-DirListBox::DirListBox(QString name, Volumes& volumes, DriveDirectories& drives)
-    : RowList(std::move(name)), volumes_(volumes), drives_(drives), path_(QDir::cleanPath(QDir::currentPath())) {
+DirListBox::DirListBox(QString name, Volumes& volumes, DriveDirectories& drives, const QString& startDir)
+    : RowList(std::move(name)), volumes_(volumes), drives_(drives), path_(QDir::cleanPath(startDir)) {
     readRows();
 }
 

@@ -29,8 +29,8 @@ namespace sonarium {
 
 class DirListBox : public RowList {
 public:
-    // Starts in the process's current directory.
-    DirListBox(QString name, Volumes& volumes, DriveDirectories& drives);
+    // Starts in `startDir`, the program's current directory.
+    DirListBox(QString name, Volumes& volumes, DriveDirectories& drives, const QString& startDir);
 
     const QString& Path() const { return path_; }
     void setPath(const QString& path);

@@ -19,10 +19,11 @@ QString volumeRootOf(const std::vector<Volume>& volumes, const QString& path) {
     return best;
 }
 
-DriveListBox::DriveListBox(QString name, Volumes& volumes) : Control(std::move(name)), source_(volumes) {
+DriveListBox::DriveListBox(QString name, Volumes& volumes, const QString& startDir)
+    : Control(std::move(name)), source_(volumes) {
     volumes_ = source_.list();
     // The drive in use is the one of the current directory.
-    drive_ = volumeRootOf(volumes_, QDir::cleanPath(QDir::currentPath()));
+    drive_ = volumeRootOf(volumes_, QDir::cleanPath(startDir));
     if (drive_.isEmpty() && !volumes_.empty()) drive_ = volumes_.front().root;
     index_ = rowOf(drive_);
     text_ = List(index_);

@@ -19,7 +19,8 @@ QString volumeRootOf(const std::vector<Volume>& volumes, const QString& path);
 
 class DriveListBox : public Control {
 public:
-    DriveListBox(QString name, Volumes& volumes);
+    // Starts on the drive that holds `startDir`, the program's current directory.
+    DriveListBox(QString name, Volumes& volumes, const QString& startDir);
 
     // The current drive's text.
     const QString& Drive() const { return text_; }

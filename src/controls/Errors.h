@@ -42,14 +42,16 @@ private:
     QString text_;
 };
 
-// Runs one statement; a failure is reported to the log hook and swallowed.
-// Returns false when the statement failed, so a caller can resume where the rule says.
-bool tryStep(const std::function<void()>& statement);
+// Where the failures that the skip-on-error rule swallows are told. A component like the
+// others: the program's writes them out for a developer, a test's collects them.
+class ErrorReporter {
+public:
+    virtual ~ErrorReporter() = default;
+    virtual void skipped(const QString& what) = 0;
+};
 
-// Where swallowed failures are reported (stderr with SONARIUM_DEBUG set; tests may collect them).
-void setSkippedErrorReporter(std::function<void(const QString&)> reporter);
-// Back to the program's own reporter.
-void resetSkippedErrorReporter();
-void reportSkippedError(const QString& what);
+// Runs one statement; a failure is told to `errors` and swallowed.
+// Returns false when the statement failed, so a caller can resume where the rule says.
+bool tryStep(ErrorReporter& errors, const std::function<void()>& statement);
 
 }  // namespace sonarium

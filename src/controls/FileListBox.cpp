@@ -8,8 +8,8 @@
 
 namespace sonarium {
 
-FileListBox::FileListBox(QString name)
-    : RowList(std::move(name)), path_(QDir::cleanPath(QDir::currentPath())) {
+FileListBox::FileListBox(QString name, const QString& startDir)
+    : RowList(std::move(name)), path_(QDir::cleanPath(startDir)) {
     readRows();
 }
 

@@ -12,8 +12,8 @@ namespace sonarium {
 
 class FileListBox : public RowList {
 public:
-    // Starts in the process's current directory, with the pattern "*.MP3".
-    explicit FileListBox(QString name);
+    // Starts in `startDir`, the program's current directory, with the pattern "*.MP3".
+    FileListBox(QString name, const QString& startDir);
 
     const QString& Path() const { return path_; }
     // A directory, relative ones taken from Path, found without regard to case. The files are

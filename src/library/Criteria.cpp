@@ -29,14 +29,13 @@ void Form1::wireCriteria() {
 // record at all, gives an empty pattern. The first line of a list is the Where line, any later
 // one an alternative; an exclusion is never first, as its menu entry is off on an empty list.
 void Form1::AddCriterion(const QString& kind) {
-    const auto step = tryStep;
     ListBox& list = frmGeneral.List1;
     QString field, value;
-    step([&] { field = C.data.recordset().Fields(MenuColumn).Name(); });
-    step([&] { value = C.data.recordset().Fields(MenuColumn).Value().toString(); });
+    tryStep([&] { field = C.data.recordset().Fields(MenuColumn).Name(); });
+    tryStep([&] { value = C.data.recordset().Fields(MenuColumn).Value().toString(); });
     QString start = kind;
     if (kind == QStringLiteral("Where") && list.ListCount() > 0) start = QStringLiteral("Or");
-    step([&] { list.AddItem(start + QStringLiteral(" [") + field + QStringLiteral("] Like (\"") + value + QStringLiteral("\") ")); });
+    tryStep([&] { list.AddItem(start + QStringLiteral(" [") + field + QStringLiteral("] Like (\"") + value + QStringLiteral("\") ")); });
 }
 
 void Form1::mnuClearCriteria_Click() {
@@ -60,15 +59,14 @@ void Form1::mnuViewCriteria_Click() {
 // more than two lines the list then starts with Or or And Not, which the engine refuses until
 // the user clears it.
 void Form1::FrmGeneral_List1_DblClick() {
-    const auto step = tryStep;
     ListBox& list = frmGeneral.List1;
     if (list.ListIndex() != 0 || list.ListCount() <= 1) {
-        step([&] { list.RemoveItem(list.ListIndex()); });
+        tryStep([&] { list.RemoveItem(list.ListIndex()); });
         return;
     }
-    step([&] { list.RemoveItem(0); });
+    tryStep([&] { list.RemoveItem(0); });
     QString line;
-    step([&] {
+    tryStep([&] {
         list.setListIndex(0);
         line = list.Text();
     });
@@ -76,8 +74,8 @@ void Form1::FrmGeneral_List1_DblClick() {
         line = QStringLiteral("Where") + line.mid(2);
     else
         line = QStringLiteral("Where") + line.mid(7);
-    step([&] { list.RemoveItem(list.ListIndex()); });
-    step([&] { list.AddItem(line); });
+    tryStep([&] { list.RemoveItem(list.ListIndex()); });
+    tryStep([&] { list.AddItem(line); });
 }
 
 // Each line is selected in turn as it is read, so the selection ends on the last one.
@@ -94,7 +92,6 @@ QString Form1::JoinCriteria() {
 }
 
 void Form1::mnuFilterAutoSet_Click() {
-    const auto step = tryStep;
     if (frmGeneral.List1.ListCount() == 0) return;
     // The entry is off while the menu offers the removal; a caption left from an earlier menu
     // still gets here, and then it removes the filter as that command would.
@@ -103,15 +100,15 @@ void Form1::mnuFilterAutoSet_Click() {
         return;
     }
     SqlSelect = SelectFromSongData + JoinCriteria();
-    step([&] { C.data.setRecordSource(SqlSelect + u' ' + SqlOrder); });
-    step([&] { C.data.Refresh(); });
-    step([&] { UpdateRecordCount(); });
+    tryStep([&] { C.data.setRecordSource(SqlSelect + u' ' + SqlOrder); });
+    tryStep([&] { C.data.Refresh(); });
+    tryStep([&] { UpdateRecordCount(); });
     FilterOn = true;
-    step([&] { Timer2.setEnabled(true); });
-    step([&] { lblFilter.setCaption(QStringLiteral("Auto-Queue")); });
-    for (int i = 1; i <= 14; ++i) step([&] { imgButon[i].setPicture(Indent.picture()); });
-    step([&] { imgButon[OrderColumn].setPicture(Button.picture()); });
-    step([&] { imgButon[MenuColumn].setPicture(ButtonBlue.picture()); });
+    tryStep([&] { Timer2.setEnabled(true); });
+    tryStep([&] { lblFilter.setCaption(QStringLiteral("Auto-Queue")); });
+    for (int i = 1; i <= 14; ++i) tryStep([&] { imgButon[i].setPicture(Indent.picture()); });
+    tryStep([&] { imgButon[OrderColumn].setPicture(Button.picture()); });
+    tryStep([&] { imgButon[MenuColumn].setPicture(ButtonBlue.picture()); });
 }
 
 // The matching records join the queue behind what it holds, in the grid's order. A statement
@@ -119,9 +116,8 @@ void Form1::mnuFilterAutoSet_Click() {
 // the queue's last directory slot the rows come without a directory. The grid then shows the
 // criteria's records when a filter was on, though its label and buttons keep the old filter.
 void Form1::cmdAutoSet_Click() {
-    const auto step = tryStep;
     if (frmGeneral.List1.ListCount() == 0) {
-        step([&] {
+        tryStep([&] {
             C.dialogs.msgBox(QStringLiteral("Auto-Queue is empty"), MsgButtons::OK, MsgIcon::Exclamation,
                              QStringLiteral("Auto-Queue"));
         });
@@ -129,28 +125,28 @@ void Form1::cmdAutoSet_Click() {
     }
     SqlSelect = SelectFromSongData + JoinCriteria();
     Recordset& records = C.data.recordset();
-    step([&] { C.data.setRecordSource(SqlSelect + u' ' + SqlOrder); });
-    step([&] { C.data.Refresh(); });
-    step([&] { UpdateRecordCount(); });
-    step([&] { records.MoveFirst(); });
-    step([&] {
+    tryStep([&] { C.data.setRecordSource(SqlSelect + u' ' + SqlOrder); });
+    tryStep([&] { C.data.Refresh(); });
+    tryStep([&] { UpdateRecordCount(); });
+    tryStep([&] { records.MoveFirst(); });
+    tryStep([&] {
         const std::int32_t count = records.RecordCount();
         for (std::int32_t i = 1; i <= count; ++i) {
-            step([&] { lstSongs.AddItem(records.Fields(QStringLiteral("File")).Value().toString()); });
-            step([&] {
+            tryStep([&] { lstSongs.AddItem(records.Fields(QStringLiteral("File")).Value().toString()); });
+            tryStep([&] {
                 SongPathOf(lstSongs.ListCount() - 1) = records.Fields(QStringLiteral("Path")).Value().toString() + u'/';
             });
-            step([&] { records.MoveNext(); });
+            tryStep([&] { records.MoveNext(); });
         }
     });
-    step([&] { GetTotTime(); });
+    tryStep([&] { GetTotTime(); });
     if (FilterOn)
-        step([&] { C.data.setRecordSource(SqlSelect + u' ' + SqlOrder); });
+        tryStep([&] { C.data.setRecordSource(SqlSelect + u' ' + SqlOrder); });
     else
-        step([&] { C.data.setRecordSource(QStringLiteral("Select * From SongData") + u' ' + SqlOrder); });
-    step([&] { C.data.Refresh(); });
-    step([&] { UpdateRecordCount(); });
-    step([&] { Timer2.setEnabled(true); });
+        tryStep([&] { C.data.setRecordSource(QStringLiteral("Select * From SongData") + u' ' + SqlOrder); });
+    tryStep([&] { C.data.Refresh(); });
+    tryStep([&] { UpdateRecordCount(); });
+    tryStep([&] { Timer2.setEnabled(true); });
 }
 
 }  // namespace sonarium

@@ -1,5 +1,4 @@
 // The song database: making a new one, choosing the one in use, and the panel that shows it.
-#include <QDir>
 #include <QFile>
 
 #include "controls/Errors.h"
@@ -47,9 +46,10 @@ void Form1::MakeDatabase(const QString& file) {
 }
 
 void Form1::mnuCreateDatabase_Click() {
-    const QString name = C.dialogs.openFile(databaseDialog(M.AppDir));
-    QDir::setCurrent(M.AppDir);
+    QString name = C.dialogs.openFile(databaseDialog(M.AppDir));
+    currentDirectory.change(M.AppDir);
     if (name.isEmpty()) return;
+    name = currentDirectory.filePath(name);
     if (fileExists(name) &&
         C.dialogs.msgBox(QStringLiteral("Database already exists - overwrite?"), MsgButtons::YesNo,
                          MsgIcon::Exclamation, QStringLiteral("Create Database")) == MsgResult::No)
@@ -81,9 +81,10 @@ void Form1::mnuCreateDatabase_Click() {
 // An empty name still reaches the last step, so the next start falls back to the default.
 void Form1::mnuDefaultDatabase_Click() {
     try {
-        const QString name = C.dialogs.openFile(databaseDialog(M.AppDir));
-        QDir::setCurrent(M.AppDir);
+        QString name = C.dialogs.openFile(databaseDialog(M.AppDir));
+        currentDirectory.change(M.AppDir);
         if (!name.isEmpty()) {
+            name = currentDirectory.filePath(name);
             C.data.database().Close();
             C.data.setDatabaseName(name);
             C.data.setConnect(Password);

@@ -68,46 +68,44 @@ void Form1::AlignButtons() {
 // A blue button takes the filter away; any other orders the grid by its column. Only a freed
 // column can then be ordered by, with a second click.
 void Form1::imgButon_Click(int index) {
-    const auto step = tryStep;
     bool filtered = false;
-    step([&] { filtered = imgButon[index].picture().sameAs(ButtonBlue.picture()); });
+    tryStep([&] { filtered = imgButon[index].picture().sameAs(ButtonBlue.picture()); });
     if (filtered) {
-        step([&] { imgButon[index].setPicture(Indent.picture()); });
-        step([&] {
+        tryStep([&] { imgButon[index].setPicture(Indent.picture()); });
+        tryStep([&] {
             if (MenuColumn == OrderColumn) imgButon[MenuColumn].setPicture(Button.picture());
         });
         FilterOff();
     } else {
-        for (int i = 0; i < SharedButtons; ++i) step([&] { imgButon[i].setPicture(Indent.picture()); });
-        step([&] {
+        for (int i = 0; i < SharedButtons; ++i) tryStep([&] { imgButon[i].setPicture(Indent.picture()); });
+        tryStep([&] {
             if (FilterOn) imgButon[MenuColumn].setPicture(ButtonBlue.picture());
         });
-        step([&] { imgButon[index].setPicture(Button.picture()); });
-        step([&] {
+        tryStep([&] { imgButon[index].setPicture(Button.picture()); });
+        tryStep([&] {
             const QString name = C.data.recordset().Fields(index).Name();
             SqlOrder = QStringLiteral("Order By [") + name + u']';
             lblOrder.setCaption(name);
         });
         OrderColumn = std::int16_t(index);
-        step([&] {
+        tryStep([&] {
             C.data.setRecordSource(FilterOn ? SqlSelect + u' ' + SqlOrder : SelectAll + u' ' + SqlOrder);
         });
-        step([&] { C.data.Refresh(); });
-        step([&] { UpdateRecordCount(); });
-        step([&] { Timer2.setEnabled(true); });
+        tryStep([&] { C.data.Refresh(); });
+        tryStep([&] { UpdateRecordCount(); });
+        tryStep([&] { Timer2.setEnabled(true); });
     }
-    step([&] { C.data.Refresh(); });
+    tryStep([&] { C.data.Refresh(); });
 }
 
 void Form1::FilterOff() {
-    const auto step = tryStep;
     FilterOn = false;
     SqlSelect = SelectAll;
-    step([&] { C.data.setRecordSource(SqlSelect + u' ' + SqlOrder); });
-    step([&] { C.data.Refresh(); });
-    step([&] { UpdateRecordCount(); });
-    step([&] { lblFilter.setCaption(QStringLiteral("Off")); });
-    step([&] { Timer2.setEnabled(true); });
+    tryStep([&] { C.data.setRecordSource(SqlSelect + u' ' + SqlOrder); });
+    tryStep([&] { C.data.Refresh(); });
+    tryStep([&] { UpdateRecordCount(); });
+    tryStep([&] { lblFilter.setCaption(QStringLiteral("Off")); });
+    tryStep([&] { Timer2.setEnabled(true); });
 }
 
 }  // namespace sonarium

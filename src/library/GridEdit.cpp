@@ -80,25 +80,23 @@ void Form1::DBGrid1_ButtonClick(int colIndex) {
         ListGen.setVisible(false);
         return;
     }
-    const auto step = tryStep;
-    step([&] { ListGen.setWidth(DBGrid1.Column(colIndex).width); });
-    step([&] { ListGen.setLeft(DBGrid1.ColumnLeft(colIndex) + DBGrid1.Left()); });
-    step([&] { ListGen.setTop(DBGrid1.Top() + DBGrid1.RowTop(DBGrid1.Row()) - ListGen.Height()); });
-    step([&] { ListGen.setVisible(true); });
-    step([&] { ListGen.SetFocus(); });
+    tryStep([&] { ListGen.setWidth(DBGrid1.Column(colIndex).width); });
+    tryStep([&] { ListGen.setLeft(DBGrid1.ColumnLeft(colIndex) + DBGrid1.Left()); });
+    tryStep([&] { ListGen.setTop(DBGrid1.Top() + DBGrid1.RowTop(DBGrid1.Row()) - ListGen.Height()); });
+    tryStep([&] { ListGen.setVisible(true); });
+    tryStep([&] { ListGen.SetFocus(); });
 }
 
 // The genre goes into the cell as text and into the tag as its number, through the player that
 // plays songs.
 void Form1::ListGen_Click() {
-    const auto step = tryStep;
-    step([&] { DBGrid1.setColumnText(DBGrid1.ColumnIndex(QStringLiteral("Genre")), ListGen.Text()); });
-    step([&] { C.mp3.Close(); });
-    step([&] { C.mp3.Open(keyOf(C.data.recordset()), QString()); });
-    step([&] { C.mp3.SetTagGenre(std::int16_t(ListGen.ListIndex())); });
-    step([&] { C.mp3.Close(); });
-    step([&] { C.mp3.WriteTag(); });
-    step([&] { ListGen.setVisible(false); });
+    tryStep([&] { DBGrid1.setColumnText(DBGrid1.ColumnIndex(QStringLiteral("Genre")), ListGen.Text()); });
+    tryStep([&] { C.mp3.Close(); });
+    tryStep([&] { C.mp3.Open(keyOf(C.data.recordset()), QString()); });
+    tryStep([&] { C.mp3.SetTagGenre(std::int16_t(ListGen.ListIndex())); });
+    tryStep([&] { C.mp3.Close(); });
+    tryStep([&] { C.mp3.WriteTag(); });
+    tryStep([&] { ListGen.setVisible(false); });
 }
 
 }  // namespace sonarium

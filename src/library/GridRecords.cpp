@@ -17,24 +17,23 @@ QString fieldOf(Recordset& records, const char* name) {
 // The folder's picture first, then the song's own, each kind replacing the one before. The
 // folder's JPEG is looked for as ".GPG", so only the song's own JPEG is ever found here.
 void Form1::DBGrid1_RowColChange() {
-    const auto step = tryStep;
     Recordset& records = C.data.recordset();
     QString dir;
-    step([&] { dir = fieldOf(records, "Path") + u'/'; });
-    step([&] {
+    tryStep([&] { dir = fieldOf(records, "Path") + u'/'; });
+    tryStep([&] {
         if (dir.isEmpty()) throw RuntimeError(RuntimeError::InvalidCall, QStringLiteral("Invalid procedure call or argument"));
         LastDir = folderName(dir);
     });
-    step([&] { Photo.setVisible(false); });
-    step([&] { Photo.setStretch(false); });
+    tryStep([&] { Photo.setVisible(false); });
+    tryStep([&] { Photo.setStretch(false); });
     for (const char* kind : {".GIF", ".BMP", ".GPG"})
-        step([&] { Photo.setPicture(C.pictures.load(dir + LastDir + QLatin1String(kind))); });
+        tryStep([&] { Photo.setPicture(C.pictures.load(dir + LastDir + QLatin1String(kind))); });
     for (const char* kind : {".GIF", ".BMP", ".JPG"})
-        step([&] {
+        tryStep([&] {
             Photo.setPicture(C.pictures.load(fieldOf(records, "Path") + u'/' + fieldOf(records, "File") +
                                              QLatin1String(kind)));
         });
-    step([&] {
+    tryStep([&] {
         if (Photo.picture().isNull()) Photo.setPicture(imgMpeg3.picture());
     });
     SizePhoto();

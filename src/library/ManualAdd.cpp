@@ -18,10 +18,9 @@ void Form1::CmdDataAdd_Click() {
 // user typed into Tempo and the columns after it stays. The dialog stays open for the next
 // file, and the grid is left as it is.
 void Form1::FrmGeneral_cmdAdd_Click() {
-    const auto step = tryStep;
     FrmGeneral& g = frmGeneral;
     if (g.File1.FileName().isEmpty()) {
-        step([&] {
+        tryStep([&] {
             C.dialogs.msgBox(QStringLiteral("No file selected"), MsgButtons::OK, MsgIcon::Exclamation,
                              QStringLiteral("Add/Update"));
         });
@@ -30,37 +29,37 @@ void Form1::FrmGeneral_cmdAdd_Click() {
     const QString fileName = g.File1.FileName();
     const QString dir = g.Dir1.Path();
     const QString entry = (dir.endsWith(u'/') ? dir : dir + u'/') + fileName;
-    step([&] { C.mp3.Open(entry, QString()); });
+    tryStep([&] { C.mp3.Open(entry, QString()); });
 
     Recordset& records = C.data.recordset();
     bool found = false;
-    step([&] { records.MoveFirst(); });
-    step([&] {
+    tryStep([&] { records.MoveFirst(); });
+    tryStep([&] {
         const std::int32_t count = records.RecordCount();
         if (!fitsRecordLoop(count)) return;
         const QString wanted = entry.toUpper();
         for (int i = 1; i <= count; ++i) {
             bool same = false;
-            step([&] { same = records.Fields(QStringLiteral("Path\\File")).Value().toString().toUpper() == wanted; });
+            tryStep([&] { same = records.Fields(QStringLiteral("Path\\File")).Value().toString().toUpper() == wanted; });
             if (same) {
                 found = true;
                 break;
             }
-            step([&] { records.MoveNext(); });
+            tryStep([&] { records.MoveNext(); });
         }
     });
-    step([&] { found ? records.Edit() : records.AddNew(); });
+    tryStep([&] { found ? records.Edit() : records.AddNew(); });
 
     // The length is held in 16 bits here: a file longer than that keeps no length.
     std::int16_t seconds = 0;
-    step([&] { seconds = toInt16(C.mp3.Length()); });
-    writeFileColumns(records, C.mp3, entry, dir, fileName, durationText(seconds));
-    step([&] { records.Update(); });
-    step([&] {
+    tryStep([&] { seconds = toInt16(C.mp3.Length()); });
+    writeFileColumns(C.errors, records, C.mp3, entry, dir, fileName, durationText(seconds));
+    tryStep([&] { records.Update(); });
+    tryStep([&] {
         C.dialogs.msgBox(found ? QStringLiteral("File Updated") : QStringLiteral("File Added"), MsgButtons::OK,
                          MsgIcon::Information, QStringLiteral("Manual Update"));
     });
-    step([&] { C.mp3.Close(); });
+    tryStep([&] { C.mp3.Close(); });
 }
 
 }  // namespace sonarium

@@ -19,28 +19,27 @@ QString withSlash(const QString& dir) { return dir.endsWith(u'/') ? dir : dir + 
 // one, even when the library refused it; the count of records has then not grown, so the new
 // name takes the place of the last one known.
 void scanFile(Form1& f, const QString& entry, const QString& fileName) {
-    const auto step = tryStep;
     Recordset& records = f.C.data.recordset();
-    step([&] { f.C.mp3.Open(entry, QString()); });
+    f.tryStep([&] { f.C.mp3.Open(entry, QString()); });
     bool known = false;
-    step([&] {
+    f.tryStep([&] {
         const std::int32_t count = records.RecordCount();
         known = fitsRecordLoop(count) && f.KnownPaths->contains(entry, count);
     });
     // A known file stays open in the player until the next Open.
     if (known) return;
 
-    step([&] { records.AddNew(); });
+    f.tryStep([&] { records.AddNew(); });
     std::int32_t seconds = 0;
-    step([&] { seconds = toInt32(f.C.mp3.Length()); });
+    f.tryStep([&] { seconds = toInt32(f.C.mp3.Length()); });
     f.SongLength = seconds;
     f.M.SongSeconds = seconds;
-    writeFileColumns(records, f.C.mp3, entry, f.Dir1.Path(), fileName, durationText(seconds));
-    step([&] { records.Update(); });
-    step([&] { f.KnownPaths->resize(records.RecordCount()); });
-    step([&] { f.KnownPaths->set(records.RecordCount(), entry); });
+    writeFileColumns(f.C.errors, records, f.C.mp3, entry, f.Dir1.Path(), fileName, durationText(seconds));
+    f.tryStep([&] { records.Update(); });
+    f.tryStep([&] { f.KnownPaths->resize(records.RecordCount()); });
+    f.tryStep([&] { f.KnownPaths->set(records.RecordCount(), entry); });
     f.NewTitles += 1;
-    step([&] { f.C.mp3.Close(); });
+    f.tryStep([&] { f.C.mp3.Close(); });
 }
 
 }  // namespace
@@ -60,61 +59,59 @@ void Form1::wireScanner() {
 
 // A click while a scan runs is its cancel button.
 void Form1::cmdSearch_Click() {
-    const auto step = tryStep;
     if (SearchRunning) {
         SearchRunning = false;
         return;
     }
-    step([&] { frmGeneral.setFace(FrmGeneral::Face::Scan); });
+    tryStep([&] { frmGeneral.setFace(FrmGeneral::Face::Scan); });
     M.DialogAccepted = false;
-    step([&] { frmGeneral.Show(C.loop, true); });
+    tryStep([&] { frmGeneral.Show(C.loop, true); });
     FrmGeneral& g = frmGeneral;
     FrmGeneral::showControls({&g.lblStartFrom, &g.cmdCancel, &g.cmdOK}, false);
     FrmGeneral::showControls({&g.cmdAdd, &g.CmdClose, &g.Dir1, &g.Drive1, &g.File1, &g.Label1}, true);
     if (!M.DialogAccepted) return;
 
-    step([&] { cmdSearch.setPicture(imgCancelSearch.picture()); });
+    tryStep([&] { cmdSearch.setPicture(imgCancelSearch.picture()); });
     DoSearch();
     // The grid comes back in its order, without any filter it had.
     if (!SqlOrder.isEmpty()) {
-        step([&] { C.data.setRecordSource(QStringLiteral("Select * From SongData ") + SqlOrder); });
-        step([&] { C.data.Refresh(); });
+        tryStep([&] { C.data.setRecordSource(QStringLiteral("Select * From SongData ") + SqlOrder); });
+        tryStep([&] { C.data.Refresh(); });
     }
-    step([&] { UpdateRecordCount(); });
-    step([&] {
+    tryStep([&] { UpdateRecordCount(); });
+    tryStep([&] {
         C.dialogs.msgBox(QString::number(NewTitles) + QStringLiteral(" new titles found"), MsgButtons::OK,
                          MsgIcon::Information, QStringLiteral("Auto Update"));
     });
-    step([&] { cmdSearch.setPicture(imgAutoUpdate.picture()); });
-    step([&] { AlignButtons(); });
+    tryStep([&] { cmdSearch.setPicture(imgAutoUpdate.picture()); });
+    tryStep([&] { AlignButtons(); });
 }
 
 // The known names are those of the records in view now: with a filter in force, only the
 // filtered ones. The walk starts from the drive, not the chosen directory (see ScanDirectory).
 void Form1::DoSearch() {
-    const auto step = tryStep;
     Recordset& records = C.data.recordset();
-    step([&] {
+    tryStep([&] {
         const std::int32_t count = records.RecordCount();
         KnownPaths->resize(-1);
         KnownPaths->resize(count);
     });
-    step([&] {
+    tryStep([&] {
         const std::int32_t count = records.RecordCount();
         if (count <= 0) return;
         records.MoveFirst();
         if (!fitsRecordLoop(count)) return;
         for (int i = 1; i <= count; ++i) {
-            step([&] { KnownPaths->set(i, records.Fields(QStringLiteral("Path\\File")).Value().toString()); });
-            step([&] { records.MoveNext(); });
+            tryStep([&] { KnownPaths->set(i, records.Fields(QStringLiteral("Path\\File")).Value().toString()); });
+            tryStep([&] { records.MoveNext(); });
         }
     });
     NewTitles = 0;
-    step([&] { Fillist.setPattern(QStringLiteral("*.MP3")); });
+    tryStep([&] { Fillist.setPattern(QStringLiteral("*.MP3")); });
     QString start = Drive1.Drive(), backUp;
     std::int32_t dirCount = Dir1.ListCount();
     ScanDirectory(start, dirCount, backUp);
-    step([&] { Fillist.setPath(Dir1.Path()); });
+    tryStep([&] { Fillist.setPath(Dir1.Path()); });
     Dir1.setVisible(true);
     SearchRunning = false;
 }
@@ -132,10 +129,9 @@ void Form1::DoSearch() {
 // above returns at once with false, and the levels above that leave their loops and still
 // read the files of where the list was left.
 bool Form1::ScanDirectory(QString& newPath, std::int32_t& dirCount, QString& backUp) {
-    const auto step = tryStep;
     const bool result = false;
     SearchRunning = true;
-    step([&] { C.loop.doEvents(); });
+    tryStep([&] { C.loop.doEvents(); });
     if (!SearchRunning) return true;
 
     int toPeek = Dir1.ListCount();
@@ -143,9 +139,9 @@ bool Form1::ScanDirectory(QString& newPath, std::int32_t& dirCount, QString& bac
     bool abandon = false;
     while (toPeek >= 1 && SearchRunning) {
         QString oldPath = Dir1.Path();
-        step([&] { Dir1.setPath(newPath); });
+        tryStep([&] { Dir1.setPath(newPath); });
         if (Dir1.ListCount() >= 1) {
-            step([&] { Dir1.setPath(Dir1.List(toPeek - 1)); });
+            tryStep([&] { Dir1.setPath(Dir1.List(toPeek - 1)); });
             // A directory the walk is already in is not walked again: a link back up the tree,
             // or a child that could not be entered, which leaves the list where it was, would
             // otherwise recurse without end.
@@ -156,7 +152,7 @@ bool Form1::ScanDirectory(QString& newPath, std::int32_t& dirCount, QString& bac
                 abandon = ScanDirectory(child, dirCount, oldPath);
                 ScanTrail.removeLast();
             } else {
-                step([&] { Dir1.setPath(oldPath); });  // as the child's return would have
+                tryStep([&] { Dir1.setPath(oldPath); });  // as the child's return would have
             }
         }
         toPeek -= 1;
@@ -169,7 +165,7 @@ bool Form1::ScanDirectory(QString& newPath, std::int32_t& dirCount, QString& bac
         const QString thePath = withSlash(Dir1.Path());
         const int files = Fillist.ListCount();
         bool inTransaction = false;
-        step([&] {
+        tryStep([&] {
             C.data.database().BeginTrans();
             inTransaction = true;
         });
@@ -177,9 +173,9 @@ bool Form1::ScanDirectory(QString& newPath, std::int32_t& dirCount, QString& bac
             const QString name = Fillist.List(ind);
             scanFile(*this, thePath + name, name);
         }
-        if (inTransaction) step([&] { C.data.database().CommitTrans(); });
+        if (inTransaction) tryStep([&] { C.data.database().CommitTrans(); });
     }
-    if (!backUp.isEmpty()) step([&] { Dir1.setPath(backUp); });
+    if (!backUp.isEmpty()) tryStep([&] { Dir1.setPath(backUp); });
     return result;
 }
 

@@ -9,9 +9,9 @@ namespace sonarium {
 namespace {
 
 // The label under the song sets says how to load one: it goes with their list.
-void hideSongSets(ListBox& list, Label& label) {
-    tryStep([&] { list.setVisible(false); });
-    tryStep([&] { label.setVisible(false); });
+void hideSongSets(Form1& f) {
+    f.tryStep([&] { f.lstSongSets.setVisible(false); });
+    f.tryStep([&] { f.lblDoubleClick.setVisible(false); });
 }
 
 }  // namespace
@@ -19,13 +19,13 @@ void hideSongSets(ListBox& list, Label& label) {
 void Form1::mnuSongInfo_Click() {
     tryStep([&] { PanelPhoto.setVisible(false); });
     tryStep([&] { PanelSongInfo.setVisible(true); });
-    hideSongSets(lstSongSets, lblDoubleClick);
+    hideSongSets(*this);
 }
 
 void Form1::mnuPhoto_Click() {
     tryStep([&] { PanelPhoto.setVisible(true); });
     tryStep([&] { PanelSongInfo.setVisible(false); });
-    hideSongSets(lstSongSets, lblDoubleClick);
+    hideSongSets(*this);
 }
 
 }  // namespace sonarium

@@ -18,10 +18,10 @@ QString nameWithoutExtension(const QString& fileName) {
     return fileName.left(fileName.size() - 4);
 }
 
-void writeFileColumns(Recordset& record, Mp3Player& mp3, const QString& entry, const QString& dir,
-                      const QString& fileName, const QString& duration) {
-    auto put = [&record](const char* column, auto value) {
-        tryStep([&] { record.Fields(QString::fromLatin1(column)).setValue(QVariant(value())); });
+void writeFileColumns(ErrorReporter& errors, Recordset& record, Mp3Player& mp3, const QString& entry,
+                      const QString& dir, const QString& fileName, const QString& duration) {
+    auto put = [&](const char* column, auto value) {
+        tryStep(errors, [&] { record.Fields(QString::fromLatin1(column)).setValue(QVariant(value())); });
     };
     put("Path\\File", [&] { return entry; });
     put("Path", [&] { return dir; });

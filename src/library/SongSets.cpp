@@ -1,6 +1,5 @@
 // Song sets: a saved queue in a .EST file, two lines a row (directory, then title), offered by
 // name in the program's directory.
-#include <QDir>
 
 #include "controls/Errors.h"
 #include "controls/FileNames.h"
@@ -27,8 +26,9 @@ void Form1::mnuSaveSongSet_Click() {
         return;
     }
     QString name = C.dialogs.saveFile(setDialog(M.AppDir));
-    QDir::setCurrent(M.AppDir);
+    currentDirectory.change(M.AppDir);
     if (name.isEmpty()) return;
+    name = currentDirectory.filePath(name);
     // The overwrite question is asked for the name as typed; with ".EST" appended below, an
     // existing set of that name is replaced unasked.
     if (fileExists(name) &&
@@ -46,7 +46,7 @@ void Form1::mnuSaveSongSet_Click() {
 
 void Form1::mnuLoadSongSet_Click() {
     const QString name = C.dialogs.openFile(setDialog(M.AppDir));
-    QDir::setCurrent(M.AppDir);
+    currentDirectory.change(M.AppDir);
     if (name.isEmpty()) return;
     if (!hasSetExtension(name)) {
         C.dialogs.msgBox(QStringLiteral("This is not a song set file"), MsgButtons::OK, MsgIcon::Critical,
@@ -54,7 +54,7 @@ void Form1::mnuLoadSongSet_Click() {
         return;
     }
     tryStep([&] {
-        TextFieldReader in = TextFieldReader::open(resolveFileName(name));
+        TextFieldReader in = TextFieldReader::open(resolveFileName(currentDirectory.filePath(name)));
         ReadQueue(in);
     });
     tryStep([&] { GetTotTime(); });
@@ -66,14 +66,14 @@ void Form1::mnuSongSets_Click() {
     tryStep([&] { lstSongSets.setVisible(true); });
     tryStep([&] { lblDoubleClick.setVisible(true); });
     tryStep([&] { lstSongSets.Clear(); });
-    for (const QString& file : matchFiles(QDir::currentPath(), QStringLiteral("*.EST")))
+    for (const QString& file : matchFiles(currentDirectory.path(), QStringLiteral("*.EST")))
         tryStep([&] { lstSongSets.AddItem(file.left(file.size() - 4)); });
 }
 
 // Unlike the menu's load, this selects the first row, whose click loads the first song.
 void Form1::lstSongSets_DblClick() {
     tryStep([&] {
-        TextFieldReader in = TextFieldReader::open(resolveFileName(QDir::current().filePath(lstSongSets.Text() + QStringLiteral(".EST"))));
+        TextFieldReader in = TextFieldReader::open(resolveFileName(currentDirectory.filePath(lstSongSets.Text() + QStringLiteral(".EST"))));
         ReadQueue(in);
     });
     tryStep([&] { lstSongs.setListIndex(0); });

@@ -24,7 +24,6 @@ const QString& Form1::SongPathOf(int row) const {
 // Every statement that fails is skipped and the next one runs; the names are built inside each
 // statement, so a row without a directory skips exactly the steps that need it.
 bool Form1::GetSong(std::int16_t& index) {
-    auto step = [](const std::function<void()>& s) { return tryStep(s); };
     bool result = false;
     const int row = index;
     auto base = [&] { return songBase(SongPathOf(row), lstSongs.List(row)); };
@@ -32,79 +31,79 @@ bool Form1::GetSong(std::int16_t& index) {
 
     if (mnuCDtoMP3.Checked() || mnuWavToMp3.Checked() || lstSongs.ListCount() == 0) return false;
 
-    step([&] { C.mp3.Close(); });
+    tryStep([&] { C.mp3.Close(); });
     for (TextBox* box : {&txtTitle, &txtArtist, &txtAlbum, &txtYear, &txtComment})
-        step([&] { box->setText(QString()); });
+        tryStep([&] { box->setText(QString()); });
 
     SongTagTail tail;
-    step([&] { tail = readSongTagTail(mp3Name()); });
+    tryStep([&] { tail = readSongTagTail(mp3Name()); });
     const int p = int(tail.buffer.indexOf(QLatin1String("TAG"))) + 1;
     if (p > 0) {
         QString text;
-        step([&] { text = songTagText(tail.buffer, p); });
+        tryStep([&] { text = songTagText(tail.buffer, p); });
         // A genre that is no row of the list leaves the selection as it was.
-        step([&] { cboGenre.setListIndex(tail.genre.value_or(0)); });
+        tryStep([&] { cboGenre.setListIndex(tail.genre.value_or(0)); });
         const SongTagFields fields = songTagFields(text);
-        step([&] { txtTitle.setText(fields.title); });
-        step([&] { txtArtist.setText(fields.artist); });
-        step([&] { txtAlbum.setText(fields.album); });
-        step([&] { txtYear.setText(fields.year); });
-        step([&] { txtComment.setText(fields.comment); });
+        tryStep([&] { txtTitle.setText(fields.title); });
+        tryStep([&] { txtArtist.setText(fields.artist); });
+        tryStep([&] { txtAlbum.setText(fields.album); });
+        tryStep([&] { txtYear.setText(fields.year); });
+        tryStep([&] { txtComment.setText(fields.comment); });
     }
 
     std::int16_t rc = 0;
     if (mnuMP3ToWav.Checked()) {
-        step([&] { rc = C.mp3.Open(mp3Name(), base() + QStringLiteral(".WAV")); });
+        tryStep([&] { rc = C.mp3.Open(mp3Name(), base() + QStringLiteral(".WAV")); });
     } else {
-        step([&] { rc = C.mp3.Open(mp3Name(), QString()); });
-        step([&] { M.SongFile = mp3Name(); });
+        tryStep([&] { rc = C.mp3.Open(mp3Name(), QString()); });
+        tryStep([&] { M.SongFile = mp3Name(); });
     }
     // Until the file opens or the user gives up; a retry always plays, whatever the mode.
     while (rc != 0) {
         QString question;
-        step([&] { question = QStringLiteral("Open failed on ") + base() + QStringLiteral(".MP3 Retry?"); });
+        tryStep([&] { question = QStringLiteral("Open failed on ") + base() + QStringLiteral(".MP3 Retry?"); });
         if (C.dialogs.msgBox(question, MsgButtons::YesNo, MsgIcon::None, QStringLiteral("Open")) !=
             MsgResult::Yes) {
             Fading = false;
             return false;
         }
-        step([&] { C.mp3.Close(); });
-        step([&] { rc = C.mp3.Open(mp3Name(), QString()); });
+        tryStep([&] { C.mp3.Close(); });
+        tryStep([&] { rc = C.mp3.Open(mp3Name(), QString()); });
     }
 
-    step([&] { SongLength = toInt32(C.mp3.Length()); });
-    step([&] { TotalFrames = C.mp3.FrameCount(); });
-    step([&] { SongLengthText = twoDigits(SongLength / 60) + u':' + twoDigits(SongLength % 60); });
-    step([&] { lblTime.setCaption(SongLengthText); });
-    step([&] { MiniShowSongLength(); });
+    tryStep([&] { SongLength = toInt32(C.mp3.Length()); });
+    tryStep([&] { TotalFrames = C.mp3.FrameCount(); });
+    tryStep([&] { SongLengthText = twoDigits(SongLength / 60) + u':' + twoDigits(SongLength % 60); });
+    tryStep([&] { lblTime.setCaption(SongLengthText); });
+    tryStep([&] { MiniShowSongLength(); });
     // A song under half a second has length 0: the division fails and the rate of the song
     // before stays.
-    step([&] {
+    tryStep([&] {
         if (SongLength == 0)
             throw RuntimeError(RuntimeError::DivisionByZero, QStringLiteral("Division by zero"));
         FramesPerSecond = toInt32(double(C.mp3.FrameCount()) / SongLength);
     });
-    step([&] { C.mp3.setNotifyInterval(M.KaraokePlaying ? 1 : 32); });
-    step([&] { C.mp3.SetSpeed(M.SongSpeed); });
-    step([&] { lblBitrate.setCaption(QString::number(C.mp3.BitRate())); });
-    step([&] { lblFrequency.setCaption(QString::number(C.mp3.Frequency())); });
-    step([&] { lblSongDuration.setCaption(SongLengthText); });
+    tryStep([&] { C.mp3.setNotifyInterval(M.KaraokePlaying ? 1 : 32); });
+    tryStep([&] { C.mp3.SetSpeed(M.SongSpeed); });
+    tryStep([&] { lblBitrate.setCaption(QString::number(C.mp3.BitRate())); });
+    tryStep([&] { lblFrequency.setCaption(QString::number(C.mp3.Frequency())); });
+    tryStep([&] { lblSongDuration.setCaption(SongLengthText); });
 
-    step([&] { Photo.setVisible(false); });
-    step([&] { Photo.setStretch(false); });
-    step([&] { Photo.setPicture(imgMpeg3.picture()); });
+    tryStep([&] { Photo.setVisible(false); });
+    tryStep([&] { Photo.setStretch(false); });
+    tryStep([&] { Photo.setPicture(imgMpeg3.picture()); });
     TryPhotos(Photo, row);
     SizePhoto();
-    step([&] { frmMiniPlayer.Photo.setPicture(Picture()); });
+    tryStep([&] { frmMiniPlayer.Photo.setPicture(Picture()); });
     TryPhotos(frmMiniPlayer.Photo, row);
 
     if (!mnuTimerOn.Checked()) {
-        step([&] { LoadRTF(folderBase(SongPathOf(row)) + QStringLiteral(".RTF")); });
-        step([&] { LoadRTF(base() + QStringLiteral(".RTF")); });
+        tryStep([&] { LoadRTF(folderBase(SongPathOf(row)) + QStringLiteral(".RTF")); });
+        tryStep([&] { LoadRTF(base() + QStringLiteral(".RTF")); });
     }
     result = true;
 
-    step([&] {
+    tryStep([&] {
         const QString first = txtTitle.Text().isEmpty() ? lstSongs.List(row) : txtTitle.Text();
         QString text = first + QStringLiteral(" - ") + txtAlbum.Text() + QStringLiteral(" - ") +
                        txtArtist.Text() + QStringLiteral("   ");
@@ -112,10 +111,10 @@ bool Form1::GetSong(std::int16_t& index) {
         text += text;
         M.MiniTitleText = text;
     });
-    step([&] { frmMiniPlayer.Picture1.Cls(); });
-    step([&] { frmMiniPlayer.Picture1.Print(M.MiniTitleText); });
-    step([&] { LoadTB(); });
-    step([&] { chkUseInOut.setValue(M.PunchActive.at(std::size_t(row)) != 0 ? 1 : 0); });
+    tryStep([&] { frmMiniPlayer.Picture1.Cls(); });
+    tryStep([&] { frmMiniPlayer.Picture1.Print(M.MiniTitleText); });
+    tryStep([&] { LoadTB(); });
+    tryStep([&] { chkUseInOut.setValue(M.PunchActive.at(std::size_t(row)) != 0 ? 1 : 0); });
     return result;
 }
 

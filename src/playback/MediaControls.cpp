@@ -59,11 +59,13 @@ void MediaControls::setVolume(double volume) {
     if (!std::isfinite(volume)) return;
     const auto v = std::int16_t(std::lround(std::clamp(volume, 0.0, 1.0) * 100));
     F.M.Volume = v;
-    tryStep([&] { F.C.mp3.SetVolume(v, v); });
-    tryStep([&] { F.PlaceVolumeSlider(F.M.Volume); });
+    F.tryStep([&] { F.C.mp3.SetVolume(v, v); });
+    F.tryStep([&] { F.PlaceVolumeSlider(F.M.Volume); });
     // A fade lowers the volume on its own and brings back SavedVolume at its end.
     if (!F.Fading) F.SavedVolume = F.M.Volume;
 }
+
+ErrorReporter& MediaControls::errors() const { return F.C.errors; }
 
 bool MediaControls::canPlay() const { return F.M.SongPlaying || F.lstSongs.ListCount() > 0; }
 bool MediaControls::canPause() const { return F.M.SongPlaying; }
@@ -77,7 +79,7 @@ MediaState MediaControls::state() const {
 void MediaControls::command(const std::function<void()>& body) {
     if (running_) return;
     running_ = true;
-    tryStep(body);
+    F.tryStep(body);
     running_ = false;
 }
 

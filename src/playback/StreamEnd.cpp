@@ -12,59 +12,57 @@ constexpr int KnobRestLeft = 3705;
 }  // namespace
 
 void Form1::MP3_StreamEnd() {
-    auto step = [](const std::function<void()>& s) { return tryStep(s); };
-    step([&] { C.mp3.Close(); });
-    step([&] { cmdShuffle.setVisible(true); });
-    step([&] { imgMS.setPicture(Picture()); });
-    step([&] { MiniHideChannels(); });
-    step([&] { imgButtonSong.setLeft(KnobRestLeft); });
-    step([&] { MiniShowStopped(); });
-    step([&] { TimerMix.setEnabled(false); });
-    if (frmMiniPlayer.Visible()) step([&] { MiniStopMeterTimer(); });
-    for (auto& lamp : imgVU) step([&] { lamp->setPicture(imgVUPurple.picture()); });
+    tryStep([&] { C.mp3.Close(); });
+    tryStep([&] { cmdShuffle.setVisible(true); });
+    tryStep([&] { imgMS.setPicture(Picture()); });
+    tryStep([&] { MiniHideChannels(); });
+    tryStep([&] { imgButtonSong.setLeft(KnobRestLeft); });
+    tryStep([&] { MiniShowStopped(); });
+    tryStep([&] { TimerMix.setEnabled(false); });
+    if (frmMiniPlayer.Visible()) tryStep([&] { MiniStopMeterTimer(); });
+    for (auto& lamp : imgVU) tryStep([&] { lamp->setPicture(imgVUPurple.picture()); });
     if (frmMiniPlayer.Visible()) {
         for (auto& lamp : frmMiniPlayer.imgVU)
-            step([&] { lamp->setPicture(frmMiniPlayer.imgVUPurple.picture()); });
-        step([&] { MiniClearElapsed(); });
+            tryStep([&] { lamp->setPicture(frmMiniPlayer.imgVUPurple.picture()); });
+        tryStep([&] { MiniClearElapsed(); });
     }
-    if (M.KaraokeRecording) step([&] { WriteKaraoke(); });
-    step([&] { Ball.setPicture(imgRedBall.picture()); });
+    if (M.KaraokeRecording) tryStep([&] { WriteKaraoke(); });
+    tryStep([&] { Ball.setPicture(imgRedBall.picture()); });
     ShowButtonImage(BtnPlay, PlayAtRest);
-    if (frmMiniPlayer.Visible()) step([&] { MiniResetKnob(); });
+    if (frmMiniPlayer.Visible()) tryStep([&] { MiniResetKnob(); });
     M.SongPlaying = false;
     LastFrame = 0;
     Fading = false;
     // The listener's volume comes back after a fade before anything else can start.
-    step([&] { PlaceVolumeSlider(SavedVolume); });
-    step([&] { C.mp3.SetVolume(SavedVolume, SavedVolume); });
+    tryStep([&] { PlaceVolumeSlider(SavedVolume); });
+    tryStep([&] { C.mp3.SetVolume(SavedVolume, SavedVolume); });
     M.Volume = SavedVolume;
-    step([&] { SongFollows(); });
+    tryStep([&] { SongFollows(); });
     StopRequested = false;
 }
 
 // "Stop After Song" is looked at only while more rows follow: in the last row a loop mode
 // plays on whatever the check mark says. The Play handler runs nested in this event.
 void Form1::SongFollows() {
-    auto step = [](const std::function<void()>& s) { return tryStep(s); };
     const int last = lstSongs.ListCount() - 1;
     if (M.CurrentSong < last) {
         if (StopRequested) return;
         if (M.LoopMode != 2) ++M.CurrentSong;
         // Selecting another row runs the list's click, which loads the song.
-        step([&] { lstSongs.setListIndex(M.CurrentSong); });
-        if (frmMiniPlayer.Visible()) step([&] { MiniSongFollows(); });
-        if (!mnuStopAfterSong.Checked()) step([&] { BtnPlay_MouseUp(0, 0, 0, 0); });
+        tryStep([&] { lstSongs.setListIndex(M.CurrentSong); });
+        if (frmMiniPlayer.Visible()) tryStep([&] { MiniSongFollows(); });
+        if (!mnuStopAfterSong.Checked()) tryStep([&] { BtnPlay_MouseUp(0, 0, 0, 0); });
         return;
     }
     if (!StopRequested && M.LoopMode == 1) {
         M.CurrentSong = 0;
-        step([&] { lstSongs.setListIndex(0); });
-        step([&] { MiniGetSongs(); });
-        step([&] { BtnPlay_MouseUp(0, 0, 0, 0); });
+        tryStep([&] { lstSongs.setListIndex(0); });
+        tryStep([&] { MiniGetSongs(); });
+        tryStep([&] { BtnPlay_MouseUp(0, 0, 0, 0); });
     } else if (!StopRequested && M.LoopMode == 2) {
-        step([&] { lstSongs.setListIndex(M.CurrentSong); });
-        step([&] { MiniSelectRow(M.CurrentSong); });
-        step([&] { BtnPlay_MouseUp(0, 0, 0, 0); });
+        tryStep([&] { lstSongs.setListIndex(M.CurrentSong); });
+        tryStep([&] { MiniSelectRow(M.CurrentSong); });
+        tryStep([&] { BtnPlay_MouseUp(0, 0, 0, 0); });
     }
 }
 

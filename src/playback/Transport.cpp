@@ -22,19 +22,18 @@ void Form1::BtnPlay_MouseDown(int, int, double, double) {
 }
 
 void Form1::BtnPlay_MouseUp(int, int, double, double) {
-    auto step = [](const std::function<void()>& s) { return tryStep(s); };
-    step([&] { M.KaraokeIndex = 1, M.KaraokeCount = 0; });
-    step([&] { lblBladeEncTime.setVisible(false); });
+    tryStep([&] { M.KaraokeIndex = 1, M.KaraokeCount = 0; });
+    tryStep([&] { lblBladeEncTime.setVisible(false); });
     if (mnuWavToMp3.Checked() || mnuCDtoMP3.Checked() || mnuCdToWav.Checked()) {
-        step([&] { ConversionPlay(); });
+        tryStep([&] { ConversionPlay(); });
         return;
     }
     ShowButtonImage(BtnPlay, PlayAtRest);
     // A running or paused song is left alone.
     if (M.SongPlaying || M.SongPaused) return;
 
-    step([&] { C.mp3.Stop(); });
-    step([&] { C.loop.waitUntil([this] { return !M.SongPlaying; }); });
+    tryStep([&] { C.mp3.Stop(); });
+    tryStep([&] { C.loop.waitUntil([this] { return !M.SongPlaying; }); });
     if (mnuMP3ToWav.Checked() && !Mp3ToWavTargetOk()) return;
 
     if (lstSongs.ListCount() == 0) {
@@ -47,9 +46,9 @@ void Form1::BtnPlay_MouseUp(int, int, double, double) {
         return;
     }
     // Selecting runs the list's click, which sets CurrentSong.
-    if (lstSongs.ListIndex() == -1) step([&] { lstSongs.setListIndex(0); });
+    if (lstSongs.ListIndex() == -1) tryStep([&] { lstSongs.setListIndex(0); });
 
-    step([&] {
+    tryStep([&] {
         const QString timings =
             SongPathOf(M.CurrentSong) + lstSongs.List(M.CurrentSong) + QStringLiteral(".KAK");
         if (fileExists(timings) && !M.KaraokeRecording)
@@ -57,11 +56,11 @@ void Form1::BtnPlay_MouseUp(int, int, double, double) {
         else
             M.KaraokePlaying = false;
     });
-    step([&] { GetTotTime(); });
+    tryStep([&] { GetTotTime(); });
     // A song that can't be opened ends the chain here: the machine stays idle.
     if (!GetSong(M.CurrentSong)) return;
 
-    step([&] {
+    tryStep([&] {
         const std::int16_t mode = C.mp3.ChannelMode();
         if (mode == 0) {
             ShowButtonImage(imgMS, StereoPicture);
@@ -71,17 +70,17 @@ void Form1::BtnPlay_MouseUp(int, int, double, double) {
             MiniShowChannels(mode);
         }
     });
-    step([&] { cmdShuffle.setVisible(false); });
-    step([&] { SavedVolume = M.Volume; });
-    step([&] { C.mp3.SetVolume(M.Volume, M.Volume); });
-    step([&] { setCaption(CaptionWithAlarm(lstSongs.Text())); });
+    tryStep([&] { cmdShuffle.setVisible(false); });
+    tryStep([&] { SavedVolume = M.Volume; });
+    tryStep([&] { C.mp3.SetVolume(M.Volume, M.Volume); });
+    tryStep([&] { setCaption(CaptionWithAlarm(lstSongs.Text())); });
     ShowButtonImage(BtnPlay, PlayPlaying);
-    step([&] { MiniShowPlaying(); });
+    tryStep([&] { MiniShowPlaying(); });
     // Playing is set before the player starts: its events may come at any moment after.
     M.SongPlaying = true;
-    step([&] { Ball.setPicture(imgGreenBall.picture()); });
+    tryStep([&] { Ball.setPicture(imgGreenBall.picture()); });
     // With a punch section on and no decoding, nothing starts: playing, silent.
-    step([&] {
+    tryStep([&] {
         if (chkUseInOut.Value() == 0) {
             C.mp3.Play();
         } else if (mnuMP3ToWav.Checked()) {
@@ -89,7 +88,7 @@ void Form1::BtnPlay_MouseUp(int, int, double, double) {
             C.mp3.PlayRange(M.PunchStart.at(row), M.PunchEnd.at(row) - 80);
         }
     });
-    step([&] { TimerMix.setEnabled(true); });
+    tryStep([&] { TimerMix.setEnabled(true); });
 }
 
 }  // namespace sonarium

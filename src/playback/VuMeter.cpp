@@ -36,13 +36,12 @@ void Form1::OpenPeakMeter() {
 // The panel of lamps takes the song slider's place. The lamps are written at every tick of play
 // whether the panel is seen or not.
 void Form1::mnuVU_Click() {
-    const auto step = tryStep;
     const bool on = !mnuVU.Checked();
-    step([&] { imgSLiderSong.setVisible(!on); });
-    step([&] { imgButtonSong.setVisible(!on); });
-    step([&] { PanelVU.setVisible(on); });
+    tryStep([&] { imgSLiderSong.setVisible(!on); });
+    tryStep([&] { imgButtonSong.setVisible(!on); });
+    tryStep([&] { PanelVU.setVisible(on); });
     M.VUMeterOn = on ? 1 : 0;
-    step([&] { mnuVU.setChecked(on); });
+    tryStep([&] { mnuVU.setChecked(on); });
 }
 
 // Each tick shows that tick's reading, in 18 equal steps of the scale: no hold, no decay. The
@@ -50,23 +49,22 @@ void Form1::mnuVU_Click() {
 // Lamp 0 is lit all through play. A meter that was never prepared gives no reading, and the
 // lamps stay as they are.
 void Form1::TimerMix_Timer() {
-    const auto step = tryStep;
     if (!M.SongPlaying) return;
     std::optional<std::int32_t> reading;
-    step([&] { reading = C.peak.Read(); });
+    tryStep([&] { reading = C.peak.Read(); });
     if (!reading) return;
     PeakValue = *reading;
     // The most negative reading has no positive twin; it stays as it is, and lights nothing.
     if (PeakValue < 0 && PeakValue != std::numeric_limits<std::int32_t>::min()) PeakValue = -PeakValue;
-    step([&] { LampStep = toInt32(PeakMaximum / 18.0); });
+    tryStep([&] { LampStep = toInt32(PeakMaximum / 18.0); });
     auto run = [&](int from, int to, Image& lit, Image& miniLit) {
         for (int i = from; i <= to; ++i) {
             const bool off = std::int64_t(PeakValue) < std::int64_t(LampStep) * i;
             // The window is chosen anew for each lamp, as it may change between two of them.
             if (Visible())
-                step([&] { imgVU[i].setPicture(off ? imgVUPurple.picture() : lit.picture()); });
+                tryStep([&] { imgVU[i].setPicture(off ? imgVUPurple.picture() : lit.picture()); });
             else
-                step([&] {
+                tryStep([&] {
                     frmMiniPlayer.imgVU[i].setPicture(off ? frmMiniPlayer.imgVUPurple.picture() : miniLit.picture());
                 });
         }

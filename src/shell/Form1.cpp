@@ -4,12 +4,13 @@
 
 namespace sonarium {
 
-Form1::Form1(Module1& m, Components& c, DriveDirectories& drives, FrmGeneral& general, Form2& f2,
-             FrmMiniPlayer& mini)
+Form1::Form1(Module1& m, Components& c, CurrentDirectory& current, DriveDirectories& drives, FrmGeneral& general,
+             Form2& f2, FrmMiniPlayer& mini)
     : Form(QStringLiteral("Form1")),
-      Form1Controls(c, drives),
+      Form1Controls(c, drives, current.path()),
       M(m),
       C(c),
+      currentDirectory(current),
       frmGeneral(general),
       form2(f2),
       frmMiniPlayer(mini) {

@@ -12,6 +12,8 @@
 #include <utility>
 
 #include "controls/Components.h"
+#include "controls/CurrentDirectory.h"
+#include "controls/Errors.h"
 #include "controls/Form.h"
 #include "shell/Form1Controls.h"
 #include "shell/Form1Menus.h"
@@ -31,11 +33,15 @@ std::int16_t yearNumber(const QString& text);
 
 class Form1 : public Form, public Form1Controls, public Form1Menus {
 public:
-    Form1(Module1& m, Components& c, DriveDirectories& drives, FrmGeneral& general, Form2& form2,
-          FrmMiniPlayer& mini);
+    Form1(Module1& m, Components& c, CurrentDirectory& current, DriveDirectories& drives, FrmGeneral& general,
+          Form2& form2, FrmMiniPlayer& mini);
 
     Module1& M;
     Components& C;
+    CurrentDirectory& currentDirectory;
+
+    // One statement under the skip-on-error rule, its failure told to the program's reporter.
+    bool tryStep(const std::function<void()>& statement) { return sonarium::tryStep(C.errors, statement); }
     FrmGeneral& frmGeneral;
     Form2& form2;
     FrmMiniPlayer& frmMiniPlayer;

@@ -4,11 +4,11 @@
 
 namespace sonarium {
 
-Form1Controls::Form1Controls(Components& c, DriveDirectories& drives)
+Form1Controls::Form1Controls(Components& c, DriveDirectories& drives, const QString& startDir)
     : DBGrid1(QStringLiteral("DBGrid1"), c.data),
-      Drive1(QStringLiteral("Drive1"), c.volumes),
-      Dir1(QStringLiteral("Dir1"), c.volumes, drives),
-      Fillist(QStringLiteral("Fillist")),
+      Drive1(QStringLiteral("Drive1"), c.volumes, startDir),
+      Dir1(QStringLiteral("Dir1"), c.volumes, drives, startDir),
+      Fillist(QStringLiteral("Fillist"), startDir),
       Timer1(QStringLiteral("Timer1"), c.loop, 100),
       Timer2(QStringLiteral("Timer2"), c.loop, 100),
       TimerMix(QStringLiteral("TimerMix"), c.loop, 10),

@@ -14,7 +14,7 @@ namespace sonarium {
 struct Components;
 
 struct Form1Controls {
-    Form1Controls(Components& c, DriveDirectories& drives);
+    Form1Controls(Components& c, DriveDirectories& drives, const QString& startDir);
 
     // Backgrounds cut from the skin's panel sheet.
     PictureBox imgStick{"imgStick"}, PicTopPanel{"PicTopPanel"}, PicView{"PicView"},

@@ -6,10 +6,11 @@
 
 namespace sonarium {
 
-FrmGeneral::FrmGeneral(Volumes& volumes, DriveDirectories& drives)
+FrmGeneral::FrmGeneral(Volumes& volumes, DriveDirectories& drives, const QString& startDir)
     : Form(QStringLiteral("FrmGeneral")),
-      Drive1(QStringLiteral("Drive1"), volumes),
-      Dir1(QStringLiteral("Dir1"), volumes, drives) {
+      Drive1(QStringLiteral("Drive1"), volumes, startDir),
+      Dir1(QStringLiteral("Dir1"), volumes, drives, startDir),
+      File1(QStringLiteral("File1"), startDir) {
     setCaption(QStringLiteral("Sonarium"));
     design();
     // The About box closes with its OK button.

@@ -15,7 +15,7 @@ class FrmGeneral : public Form {
 public:
     // The drive and directory lists see the machine's volumes, and start on the drive and
     // directory of the process's current directory.
-    FrmGeneral(Volumes& volumes, DriveDirectories& drives);
+    FrmGeneral(Volumes& volumes, DriveDirectories& drives, const QString& startDir);
 
     // The faces that use the lists. Each shows its controls and hides those it has no use
     // for; a control it doesn't name keeps its state (the check box for sub-directories is
@@ -32,7 +32,7 @@ public:
     // Manual add and scan: a start directory, or a file of it.
     DriveListBox Drive1;
     DirListBox Dir1;
-    FileListBox File1{"File1"};
+    FileListBox File1;
     CheckBox chkSubs{"chkSubs"};
     Label lblSubs{"lblSubs"}, lblStartFrom{"lblStartFrom"}, Label1{"Label1"};
     CommandButton cmdAdd{"cmdAdd"}, CmdClose{"CmdClose"};

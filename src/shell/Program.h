@@ -2,6 +2,7 @@
 // The program's own units built once from the components: the module's state and the four
 // windows. Main() is the entry procedure.
 #include "controls/Components.h"
+#include "controls/CurrentDirectory.h"
 #include "controls/DriveDirectories.h"
 #include "shell/Form2.h"
 #include "shell/Form1.h"
@@ -21,6 +22,8 @@ public:
 
     Components& C;
     Module1 M;
+    // The program's current directory, where it started.
+    CurrentDirectory currentDirectory;
     // Where each drive's folder lists start, shared by the main window's and the dialog's.
     DriveDirectories driveDirectories;
     FrmGeneral frmGeneral;

@@ -17,19 +17,18 @@ void Form1::Form_QueryUnload(bool& cancel) {
 }
 
 void Form1::Form_Unload() {
-    auto step = [](const std::function<void()>& s) { tryStep(s); };
-    step([&] { BtnStop_MouseUp(LeftButton, 0, 0, 0); });
+    tryStep([&] { BtnStop_MouseUp(LeftButton, 0, 0, 0); });
     // A paused song is not stopped by Stop, so this wait lasts until the user resumes it and
     // it ends: the window stays alive meanwhile.
-    step([&] { C.loop.waitUntil([this] { return !M.SongPlaying; }); });
-    step([&] { C.mp3.Close(); });
-    step([&] { C.peak.Free(); });
-    step([&] { SaveConfig(); });
-    step([&] { SaveMixer(); });
-    step([&] { setVisible(false); });
-    step([&] { frmGeneral.Unload(); });
-    step([&] { form2.Unload(); });
-    step([&] { frmMiniPlayer.Unload(); });
+    tryStep([&] { C.loop.waitUntil([this] { return !M.SongPlaying; }); });
+    tryStep([&] { C.mp3.Close(); });
+    tryStep([&] { C.peak.Free(); });
+    tryStep([&] { SaveConfig(); });
+    tryStep([&] { SaveMixer(); });
+    tryStep([&] { setVisible(false); });
+    tryStep([&] { frmGeneral.Unload(); });
+    tryStep([&] { form2.Unload(); });
+    tryStep([&] { frmMiniPlayer.Unload(); });
     C.desktop.quit(0);
 }
 

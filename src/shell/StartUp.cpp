@@ -1,5 +1,4 @@
 // Form1's load in its fixed order, its second half Form1Init, and the start-up trace.
-#include <QDir>
 #include <QFile>
 
 #include "controls/Errors.h"
@@ -21,7 +20,7 @@ constexpr int SquarePhotoWidth = 1920;
 // it comes, so a start that hangs leaves the last step it reached as the last line.
 void Form1::traceOpen() {
     traceIsOpen_ = tryStep([&] {
-        QFile f(QDir::current().filePath(QStringLiteral("Debug.dat")));
+        QFile f(currentDirectory.filePath(QStringLiteral("Debug.dat")));
         if (!f.open(QIODevice::WriteOnly | QIODevice::Truncate))
             throw RuntimeError(RuntimeError::PathFileAccess, QStringLiteral("Path/File access error"));
     });
@@ -30,7 +29,7 @@ void Form1::traceOpen() {
 void Form1::trace(const char* word, int step) {
     if (!traceIsOpen_) return;
     tryStep([&] {
-        QFile f(QDir::current().filePath(QStringLiteral("Debug.dat")));
+        QFile f(currentDirectory.filePath(QStringLiteral("Debug.dat")));
         if (!f.open(QIODevice::WriteOnly | QIODevice::Append))
             throw RuntimeError(RuntimeError::PathFileAccess, QStringLiteral("Path/File access error"));
         // The number as text keeps its leading blank: "Load 1".
@@ -42,58 +41,57 @@ void Form1::traceClose() { traceIsOpen_ = false; }
 
 // Every statement that fails is skipped and the next one runs.
 void Form1::Form_Load() {
-    auto step = [](const std::function<void()>& s) { tryStep(s); };
 
     traceOpen();
-    step([&] {
+    tryStep([&] {
         M.MiniSliderTop = 690;
         M.MiniSliderBottom = 1020;
         M.MiniSliderStep = (1020.0 - 690.0) / 100.0;
     });
     trace("Load", 1);
-    step([&] { OpenMixerAtLoad(); });
-    step([&] { chkLoop.setPicture(imgRedBall.picture()); });
+    tryStep([&] { OpenMixerAtLoad(); });
+    tryStep([&] { chkLoop.setPicture(imgRedBall.picture()); });
     trace("Load", 2);
-    step([&] { OpenPeakMeter(); });
+    tryStep([&] { OpenPeakMeter(); });
     trace("Load", 11);
-    step([&] { InitGenre(); });
-    step([&] { M.AppDir = C.startDir.isEmpty() ? QDir::currentPath() : C.startDir; });
-    step([&] { M.SkinPath = M.AppDir; });
-    step([&] { M.SongSpeed = 100; });
-    step([&] {
+    tryStep([&] { InitGenre(); });
+    tryStep([&] { M.AppDir = currentDirectory.path(); });
+    tryStep([&] { M.SkinPath = M.AppDir; });
+    tryStep([&] { M.SongSpeed = 100; });
+    tryStep([&] {
         QString db = joinPath(M.AppDir, QStringLiteral("SonariumData.mdb"));
         if (!fileExists(db)) MakeDatabase(db);
     });
-    step([&] { PanelSongInfo.setVisible(false); });
-    step([&] { lstSongSets.setVisible(false); });
-    step([&] { cboSampleRate.setListIndex(1); });
-    step([&] { cboBitRate.setListIndex(8); });
-    step([&] { InitCD(); });
-    step([&] { EncoderBitRate = 128000; C.encoder.setEncoderBitRate(128000); });
-    step([&] { EncoderSampleRate = 44100; C.encoder.setEncoderSampleRate(44100); });
-    step([&] { M.Volume = 35; });
-    step([&] { M.Bass = 50; });
-    step([&] { M.Treble = 50; });
-    step([&] { LoadMixer(); });
-    step([&] { SavedVolume = M.Volume; });
-    step([&] { PlaceSliders(); });
+    tryStep([&] { PanelSongInfo.setVisible(false); });
+    tryStep([&] { lstSongSets.setVisible(false); });
+    tryStep([&] { cboSampleRate.setListIndex(1); });
+    tryStep([&] { cboBitRate.setListIndex(8); });
+    tryStep([&] { InitCD(); });
+    tryStep([&] { EncoderBitRate = 128000; C.encoder.setEncoderBitRate(128000); });
+    tryStep([&] { EncoderSampleRate = 44100; C.encoder.setEncoderSampleRate(44100); });
+    tryStep([&] { M.Volume = 35; });
+    tryStep([&] { M.Bass = 50; });
+    tryStep([&] { M.Treble = 50; });
+    tryStep([&] { LoadMixer(); });
+    tryStep([&] { SavedVolume = M.Volume; });
+    tryStep([&] { PlaceSliders(); });
     trace("Load", 12);
-    step([&] { SendToneToMixer(); });
-    step([&] { M.DefaultTreble = M.Treble; });
-    step([&] { M.DefaultBass = M.Bass; });
-    step([&] { Drive1_Change(); });
-    step([&] { BarWidth = 3165; });
+    tryStep([&] { SendToneToMixer(); });
+    tryStep([&] { M.DefaultTreble = M.Treble; });
+    tryStep([&] { M.DefaultBass = M.Bass; });
+    tryStep([&] { Drive1_Change(); });
+    tryStep([&] { BarWidth = 3165; });
     trace("Load", 13);
-    step([&] { SelectDrive(1); });
+    tryStep([&] { SelectDrive(1); });
     trace("Load", 14);
-    step([&] {
+    tryStep([&] {
         for (const QString& font : C.desktop.screenFonts()) CboFontName.AddItem(font);
     });
-    step([&] { CboFontName.setListIndex(0); });
-    step([&] { CboFontSize.setListIndex(0); });
-    step([&] { if (form2.Visible()) form2.Unload(); });
-    step([&] { mnuBlade.setEnabled(fileExists(joinPath(M.AppDir, QStringLiteral("Bladeenc")))); });
-    step([&] {
+    tryStep([&] { CboFontName.setListIndex(0); });
+    tryStep([&] { CboFontSize.setListIndex(0); });
+    tryStep([&] { if (form2.Visible()) form2.Unload(); });
+    tryStep([&] { mnuBlade.setEnabled(fileExists(joinPath(M.AppDir, QStringLiteral("Bladeenc")))); });
+    tryStep([&] {
         // Without a Config.dat the Blade entry stays chosen even when disabled: first starts
         // show it that way on purpose.
         if (mnuBlade.Enabled())
@@ -103,12 +101,12 @@ void Form1::Form_Load() {
         M.EncoderChoice = 1;
     });
     trace("Load", 15);
-    step([&] { GetTitles(); });
-    step([&] { LoadConfig(); });
-    step([&] { LoadSkin(); });
-    step([&] { LoadSkinMini(); });
-    step([&] { if (PhotoWidth == 0) PhotoWidth = FullPhotoWidth; });
-    step([&] {
+    tryStep([&] { GetTitles(); });
+    tryStep([&] { LoadConfig(); });
+    tryStep([&] { LoadSkin(); });
+    tryStep([&] { LoadSkinMini(); });
+    tryStep([&] { if (PhotoWidth == 0) PhotoWidth = FullPhotoWidth; });
+    tryStep([&] {
         if (M.VUMeterOn == 1) {
             imgSLiderSong.setVisible(false);
             imgButtonSong.setVisible(false);
@@ -116,10 +114,10 @@ void Form1::Form_Load() {
             mnuVU.setChecked(true);
         }
     });
-    step([&] { mnuBladeInvisible.setChecked(true); });
-    step([&] { Photo.setWidth(PhotoWidth); });
-    step([&] { Photo.setLeft((FullPhotoWidth - Photo.Width()) / 2); });
-    step([&] {
+    tryStep([&] { mnuBladeInvisible.setChecked(true); });
+    tryStep([&] { Photo.setWidth(PhotoWidth); });
+    tryStep([&] { Photo.setLeft((FullPhotoWidth - Photo.Width()) / 2); });
+    tryStep([&] {
         if (PhotoWidth == SquarePhotoWidth) {
             Image8.setVisible(true);
             Image9.setVisible(true);
@@ -128,36 +126,35 @@ void Form1::Form_Load() {
     trace("Load", 16);
     traceClose();
     if (M.MiniMode != 0) {
-        step([&] { CheckForSong(); });
-        step([&] { frmMiniPlayer.Show(C.loop); });
+        tryStep([&] { CheckForSong(); });
+        tryStep([&] { frmMiniPlayer.Show(C.loop); });
     } else {
-        step([&] { Form1Init(); });
+        tryStep([&] { Form1Init(); });
     }
 }
 
 void Form1::Form1Init() {
-    auto step = [](const std::function<void()>& s) { tryStep(s); };
     traceOpen();
     trace("Init", 1);
-    step([&] {
+    tryStep([&] {
         const Picture& mini = frmMiniPlayer.Photo.picture();
         Photo.setPicture(mini.isNull() ? imgMpeg3.picture() : mini);
     });
     trace("Init", 2);
     trace("Init", 3);
-    step([&] {
+    tryStep([&] {
         for (auto& lamp : imgVU) lamp->setPicture(imgVUPurple.picture());
     });
     trace("Init", 4);
-    step([&] { imgButon_Click(1); });
+    tryStep([&] { imgButon_Click(1); });
     trace("Init", 5);
-    step([&] { PanelPhoto.setVisible(true); });
+    tryStep([&] { PanelPhoto.setVisible(true); });
     trace("Init", 6);
-    step([&] { lblSpeed.setCaption(QString::number(200 - M.SongSpeed)); });
-    step([&] { setVisible(true); });
-    step([&] { Refresh(); });
+    tryStep([&] { lblSpeed.setCaption(QString::number(200 - M.SongSpeed)); });
+    tryStep([&] { setVisible(true); });
+    tryStep([&] { Refresh(); });
     trace("Init", 7);
-    step([&] { CheckForSong(); });
+    tryStep([&] { CheckForSong(); });
     trace("Init", 8);
     traceClose();
 }

@@ -11,24 +11,23 @@ constexpr int KeyF4 = 115;
 }
 
 void Form1::Form_Activate() {
-    auto step = [](const std::function<void()>& s) { tryStep(s); };
     if (DatabaseAttached == 0) {
         // The library is attached on the first activation, not at load, so a start in mini
         // mode opens it only when the main window first comes up.
-        step([&] { C.data.database().Close(); });
-        step([&] { C.data.setDatabaseName(M.DatabasePath); });
-        step([&] { C.data.setRecordSource(QStringLiteral("SongData")); });
-        step([&] { C.data.Refresh(); });
-        step([&] { UpdateRecordCount(); });
+        tryStep([&] { C.data.database().Close(); });
+        tryStep([&] { C.data.setDatabaseName(M.DatabasePath); });
+        tryStep([&] { C.data.setRecordSource(QStringLiteral("SongData")); });
+        tryStep([&] { C.data.Refresh(); });
+        tryStep([&] { UpdateRecordCount(); });
         DatabaseAttached = 1;
-        step([&] { imgButon_Click(1); });
+        tryStep([&] { imgButon_Click(1); });
         return;
     }
-    step([&] {
+    tryStep([&] {
         const Picture& mini = frmMiniPlayer.Photo.picture();
         Photo.setPicture(mini.isNull() ? imgMpeg3.picture() : mini);
     });
-    step([&] {
+    tryStep([&] {
         if (M.ReturnedFromMini) {
             M.ReturnedFromMini = false;
             PanelPhoto.setVisible(true);

@@ -28,8 +28,8 @@ bool isFormWindow(const QWindow* w) {
 
 }  // namespace
 
-FormBinding::FormBinding(Form& form, QWidget& window, QString fallbackCaption)
-    : form_(form), window_(window), fallbackCaption_(std::move(fallbackCaption)) {
+FormBinding::FormBinding(Form& form, QWidget& window, ErrorReporter& errors, QString fallbackCaption)
+    : form_(form), window_(window), errors_(errors), fallbackCaption_(std::move(fallbackCaption)) {
     window_.setObjectName(form.Name());
     window_.setProperty(FormWindowProperty, true);
     place_ = QPoint(form.Left(), form.Top());
@@ -88,10 +88,10 @@ void FormBinding::syncVisible() {
 
 void FormBinding::closeRequested(QCloseEvent& e) {
     bool mayClose = false;
-    feed([&] { mayClose = form_.QueryUnload(); });
+    feed(errors_, [&] { mayClose = form_.QueryUnload(); });
     // A close that may go on unloads the form, as the platform's window close does; the main
     // window's own close procedure cancels and takes the window away itself.
-    if (mayClose && form_.Visible()) feed([&] { form_.Unload(); });
+    if (mayClose && form_.Visible()) feed(errors_, [&] { form_.Unload(); });
     if (mayClose && !form_.Visible())
         e.accept();
     else
@@ -103,7 +103,7 @@ void FormBinding::focusWindowChanged(QWindow* w) {
     if (w == window_.windowHandle()) {
         if (active_) return;
         active_ = true;
-        feed([this] { form_.Activate(); });
+        feed(errors_, [this] { form_.Activate(); });
     } else if (isFormWindow(w)) {
         active_ = false;
     }
@@ -117,7 +117,7 @@ bool FormBinding::eventFilter(QObject* watched, QEvent* event) {
         // The user moved the window: the model's Left and Top say where it is now.
         if (watched == &window_ && !syncing_ && window_.isVisible()) {
             place_ = window_.pos() * TwipsPerPixel;
-            feed([this] { form_.Move(place_.x(), place_.y(), form_.Width(), form_.Height()); });
+            feed(errors_, [this] { form_.Move(place_.x(), place_.y(), form_.Width(), form_.Height()); });
         }
         return false;
     case QEvent::WindowStateChange:
@@ -126,7 +126,7 @@ bool FormBinding::eventFilter(QObject* watched, QEvent* event) {
             const WindowState state = s & Qt::WindowMinimized   ? WindowState::Minimized
                                       : s & Qt::WindowMaximized ? WindowState::Maximized
                                                                 : WindowState::Normal;
-            feed([&] { form_.setWindowState(state); });
+            feed(errors_, [&] { form_.setWindowState(state); });
         }
         return false;
     default:
@@ -144,7 +144,7 @@ bool FormBinding::keyPressed(QObject* receiver, QEvent* event) {
     const int code = platformKeyCode(key->key(), key->modifiers());
     if (code == 0) return false;
     bool swallowed = false;
-    feed([&] { swallowed = form_.KeyDown(code, shiftCode(key->modifiers())); });
+    feed(errors_, [&] { swallowed = form_.KeyDown(code, shiftCode(key->modifiers())); });
     return swallowed;
 }
 

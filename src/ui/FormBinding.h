@@ -18,12 +18,14 @@ class QWindow;
 
 namespace sonarium {
 
+class ErrorReporter;
 class Form;
 
 class FormBinding : public QObject {
 public:
     // `fallbackCaption` is shown while the model's caption is empty.
-    FormBinding(Form& form, QWidget& window, QString fallbackCaption = {});
+    // Failures of the calls fed to the model go to `errors`.
+    FormBinding(Form& form, QWidget& window, ErrorReporter& errors, QString fallbackCaption = {});
     ~FormBinding() override;
 
     // Reads the whole model again.
@@ -48,6 +50,7 @@ private:
 
     Form& form_;
     QWidget& window_;
+    ErrorReporter& errors_;
     QString fallbackCaption_;
     int subscription_ = 0;
     int refreshes_ = 0;

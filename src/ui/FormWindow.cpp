@@ -15,10 +15,11 @@ namespace {
 constexpr QSize FallbackSize{320, 200};
 }  // namespace
 
-FormWindow::FormWindow(Form& form, const std::vector<Control*>& controls, QWidget* parent, Qt::WindowFlags flags)
-    : QWidget(parent, flags), form_(form), views_(*this) {
+FormWindow::FormWindow(Form& form, const std::vector<Control*>& controls, ErrorReporter& errors, QWidget* parent,
+                       Qt::WindowFlags flags)
+    : QWidget(parent, flags), form_(form), views_(*this, errors) {
     views_.build(controls);
-    binding_ = std::make_unique<FormBinding>(form, *this, form.Caption());
+    binding_ = std::make_unique<FormBinding>(form, *this, errors, form.Caption());
     binding_->onRefresh = [this] { followSize(); };
     binding_->beforeShow = [this] { beforeShow(); };
     binding_->refresh();

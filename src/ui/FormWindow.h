@@ -15,7 +15,8 @@ class FormBinding;
 
 class FormWindow : public QWidget {
 public:
-    FormWindow(Form& form, const std::vector<Control*>& controls, QWidget* parent = nullptr,
+    // Failures of the calls that the window and its views feed to the models go to `errors`.
+    FormWindow(Form& form, const std::vector<Control*>& controls, ErrorReporter& errors, QWidget* parent = nullptr,
                Qt::WindowFlags flags = Qt::Window);
     ~FormWindow() override;
 

@@ -29,8 +29,8 @@ protected:
 
 }  // namespace
 
-GeneralWindow::GeneralWindow(FrmGeneral& form, QWidget* parent)
-    : FormWindow(form, form.allControls(), parent, Qt::Dialog), general_(form), edge_(new CardEdge(this)) {
+GeneralWindow::GeneralWindow(FrmGeneral& form, ErrorReporter& errors, QWidget* parent)
+    : FormWindow(form, form.allControls(), errors, parent, Qt::Dialog), general_(form), edge_(new CardEdge(this)) {
     edge_->setAttribute(Qt::WA_TransparentForMouseEvents);
     edge_->setGeometry(rect());
     edge_->raise();

@@ -10,7 +10,7 @@ class FrmGeneral;
 
 class GeneralWindow : public FormWindow {
 public:
-    GeneralWindow(FrmGeneral& form, QWidget* parent);
+    GeneralWindow(FrmGeneral& form, ErrorReporter& errors, QWidget* parent);
 
 protected:
     void beforeShow() override;

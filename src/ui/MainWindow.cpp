@@ -28,12 +28,12 @@ MainWindow::MainWindow(Form1& form) : form_(form) {
     // The window is exactly as large as the bar and the visible part of the surface.
     layout()->setSizeConstraint(QLayout::SetFixedSize);
 
-    menus_ = std::make_unique<MenuBarBinder>(*menuBar(), form.menuBar());
+    menus_ = std::make_unique<MenuBarBinder>(*menuBar(), form.menuBar(), form.C.errors);
     menus_->onTopLevelChanged = [this] { followSize(); };
-    views_ = std::make_unique<ViewFactory>(*surface_);
+    views_ = std::make_unique<ViewFactory>(*surface_, form.C.errors);
     views_->build(form.allControls());
 
-    binding_ = std::make_unique<FormBinding>(form, *this, QStringLiteral("Sonarium"));
+    binding_ = std::make_unique<FormBinding>(form, *this, form.C.errors, QStringLiteral("Sonarium"));
     binding_->onRefresh = [this] { followSize(); };
     binding_->refresh();
 }

@@ -18,17 +18,13 @@ struct QtEventLoop::TimerState {
     bool stopped = false;  // stopped or done; its QTimer goes once no handler of it is open
 };
 
-namespace {
+QtEventLoop::QtEventLoop(ErrorReporter& errors, QObject* parent) : QObject(parent), errors_(errors) { clock_.start(); }
 
 // Qt's dispatcher is not exception-safe, so a failure must end at the top of its event:
-// it is logged, and the program goes on.
-void runEvent(const EventLoop::Task& fn) {
-    if (fn) tryStep(fn);
+// it is reported, and the program goes on.
+void QtEventLoop::runEvent(const Task& fn) {
+    if (fn) tryStep(errors_, fn);
 }
-
-}  // namespace
-
-QtEventLoop::QtEventLoop(QObject* parent) : QObject(parent) { clock_.start(); }
 
 // The QTimers are children of this object and go with it.
 QtEventLoop::~QtEventLoop() = default;
@@ -37,7 +33,7 @@ QDateTime QtEventLoop::wallClock() const { return QDateTime::currentDateTime(); 
 
 void QtEventLoop::post(Task fn) {
     // A queued call on this object runs on the thread it lives on, in the order posted.
-    QMetaObject::invokeMethod(this, [fn = std::move(fn)] { runEvent(fn); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(this, [this, fn = std::move(fn)] { runEvent(fn); }, Qt::QueuedConnection);
 }
 
 EventLoop::TimerId QtEventLoop::startTimer(int intervalMs, Task fn, bool singleShot) {

@@ -11,6 +11,7 @@
 #include <map>
 #include <memory>
 
+#include "controls/Errors.h"
 #include "controls/EventLoop.h"
 
 class QTimer;
@@ -21,7 +22,8 @@ class QtEventLoop : public QObject, public EventLoop {
     Q_OBJECT
 
 public:
-    explicit QtEventLoop(QObject* parent = nullptr);
+    // Failures of the calls it runs go to `errors`.
+    explicit QtEventLoop(ErrorReporter& errors, QObject* parent = nullptr);
     ~QtEventLoop() override;
 
     std::int64_t now() const override { return clock_.elapsed(); }
@@ -38,8 +40,10 @@ public:
 private:
     struct TimerState;
     void fire(const std::shared_ptr<TimerState>& t);
+    void runEvent(const Task& fn);
     void retire(TimerState& t);
 
+    ErrorReporter& errors_;
     QElapsedTimer clock_;
     std::map<TimerId, std::shared_ptr<TimerState>> timers_;
     TimerId lastTimer_ = 0;

@@ -17,10 +17,10 @@ Views::Views(Program& program) {
     FrmMiniPlayer& mini = program.frmMiniPlayer;
     std::vector<Control*> miniControls = {&mini.Photo, &mini.Picture1};
     for (auto& lamp : mini.imgVU) miniControls.push_back(lamp.get());
-    mini_ = std::make_unique<FormWindow>(mini, miniControls);
-    general_ = std::make_unique<GeneralWindow>(program.frmGeneral, main_.get());
-    form2_ = std::make_unique<FormWindow>(program.form2, std::vector<Control*>{&program.form2.List1}, main_.get(),
-                                          Qt::Dialog);
+    mini_ = std::make_unique<FormWindow>(mini, miniControls, program.C.errors);
+    general_ = std::make_unique<GeneralWindow>(program.frmGeneral, program.C.errors, main_.get());
+    form2_ = std::make_unique<FormWindow>(program.form2, std::vector<Control*>{&program.form2.List1},
+                                          program.C.errors, main_.get(), Qt::Dialog);
 }
 
 Views::~Views() = default;

@@ -1,7 +1,6 @@
 #pragma once
-// The program built on fakes in a fresh current directory, as a user's first start sees it.
+// The program built on fakes, started in a fresh directory, as a user's first start sees it.
 // Tests script `tc` first; the program is built on first use of program().
-#include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
 #include <gtest/gtest.h>
@@ -17,15 +16,9 @@ class ProgramFixture : public ::testing::Test {
 protected:
     void SetUp() override {
         ASSERT_TRUE(dir.isValid());
-        previous = QDir::currentPath();
-        // The program reads the current directory as it is built (the file browser starts there).
-        QDir::setCurrent(dir.path());
         tc.startDir = dir.path();
     }
-    void TearDown() override {
-        prog.reset();
-        QDir::setCurrent(previous);
-    }
+    void TearDown() override { prog.reset(); }
 
     Program& program() {
         if (!prog) {
@@ -40,7 +33,7 @@ protected:
         Components c = tc.components();
         components = std::make_unique<Components>(Components{
             c.loop, c.dialogs, c.desktop, c.pictures, c.volumes, c.mp3, c.mp32, c.encoder, c.cd, c.mixer, c.peak,
-            data, c.processes, c.commandLine, c.startDir});
+            data, c.processes, c.errors, c.commandLine, c.startDir});
         prog = std::make_unique<Program>(*components);
         tc.pictures.clearCalls();
         return *prog;
@@ -61,7 +54,6 @@ protected:
     }
 
     QTemporaryDir dir;
-    QString previous;
     TestComponents tc;
     std::unique_ptr<Components> components;
     std::unique_ptr<Program> prog;

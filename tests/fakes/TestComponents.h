@@ -2,6 +2,7 @@
 // One of every fake, on one virtual clock, ready to hand to the program. Members are public so
 // a test scripts them directly: `tc.mp3.addFile(...)`, `tc.dialogs.answer(MsgResult::Yes)`.
 // The loop is declared first so that it outlives every fake that schedules on it.
+#include "CollectedErrors.h"
 #include "FakeDataControl.h"
 #include "FakeDesktop.h"
 #include "FakeMixer.h"
@@ -30,6 +31,7 @@ struct TestComponents {
     FakePeakMeter peak;
     FakeDataControl data;
     IdleProcesses processes;
+    CollectedErrors errors;
     QString commandLine;
     QString startDir;
 
@@ -37,8 +39,8 @@ struct TestComponents {
     TestComponents() { volumes.add(QStringLiteral("/"), QStringLiteral("System")); }
 
     Components components() {
-        return Components{loop,  dialogs, desktop, pictures, volumes, mp3,       mp32, encoder,
-                          cd,    mixer,   peak,    data,     processes, commandLine, startDir};
+        return Components{loop,  dialogs, desktop, pictures,  volumes, mp3,         mp32,    encoder, cd,
+                          mixer, peak,    data,    processes, errors,  commandLine, startDir};
     }
 };
 

@@ -19,8 +19,6 @@ protected:
 
     void SetUp() override {
         ASSERT_TRUE(dir.isValid());
-        previous = QDir::currentPath();
-        QDir::setCurrent(dir.path());
         Mp3Recipe recipe;
         recipe.seconds = 3.0;  // enough frames for the knob's 176 steps to be a frame or more
         for (const char* name : {"One", "Two", "Three"})
@@ -33,10 +31,7 @@ protected:
             f.MP3_StreamEnd();
         };
     }
-    void TearDown() override {
-        program.reset();
-        QDir::setCurrent(previous);
-    }
+    void TearDown() override { program.reset(); }
 
     // The directory's titles, queued with Add All.
     void queueAll() {
@@ -48,7 +43,6 @@ protected:
     }
 
     QTemporaryDir dir;
-    QString previous;
     QStringList ended;
 };
 

@@ -29,16 +29,11 @@ protected:
 
     void SetUp() override {
         ASSERT_TRUE(dir.isValid());
-        previous = QDir::currentPath();
-        QDir::setCurrent(dir.path());
         makeTree();
         start(dir.path()).form1.Form_Activate();  // attaches the library
         dialogs.setAutoAnswerOk(true);
     }
-    void TearDown() override {
-        program.reset();
-        QDir::setCurrent(previous);
-    }
+    void TearDown() override { program.reset(); }
 
     // One two-second file made by the encoder, copied with each song's own tag after it: 6
     // directories of 50 songs, some in lower case, some with texts of the tag's code page.
@@ -75,7 +70,6 @@ protected:
     }
 
     QTemporaryDir dir;
-    QString previous;
     QHash<QString, QStringList> expected;  // by key, the values of `columns`
 };
 

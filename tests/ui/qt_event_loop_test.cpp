@@ -10,6 +10,7 @@
 #include <thread>
 
 #include "controls/Errors.h"
+#include "CollectedErrors.h"
 #include "ui/QtEventLoop.h"
 
 namespace sonarium {
@@ -30,7 +31,8 @@ struct Nesting {
 };
 
 TEST(QtEventLoopTest, PostsRunInOrderOnTheUiThreadFromAnyThread) {
-    QtEventLoop loop;
+    CollectedErrors errors;
+    QtEventLoop loop(errors);
     QStringList order;
     for (const char* name : {"a", "b", "c"}) loop.post([&order, name] { order << name; });
     loop.doEvents();
@@ -56,7 +58,8 @@ TEST(QtEventLoopTest, PostsRunInOrderOnTheUiThreadFromAnyThread) {
 }
 
 TEST(QtEventLoopTest, OpenTimerIsNotReenteredWhileOthersRunInsideItsWait) {
-    QtEventLoop loop;
+    CollectedErrors errors;
+    QtEventLoop loop(errors);
     bool insideA = false, reentered = false, released = false;
     int aRuns = 0, bInsideA = 0, postsInsideA = 0;
     const auto a = loop.startTimer(2, [&] {
@@ -79,7 +82,8 @@ TEST(QtEventLoopTest, OpenTimerIsNotReenteredWhileOthersRunInsideItsWait) {
 }
 
 TEST(QtEventLoopTest, StopTimerInsideItsOwnHandlerOrWhileItIsOpen) {
-    QtEventLoop loop;
+    CollectedErrors errors;
+    QtEventLoop loop(errors);
     int ticks = 0;
     EventLoop::TimerId self = 0;
     self = loop.startTimer(1, [&] {
@@ -122,7 +126,8 @@ TEST(QtEventLoopTest, StopTimerInsideItsOwnHandlerOrWhileItIsOpen) {
 // A Play that stops the current song waits for its end; the end of the stream starts the
 // next song inside that wait.
 TEST(QtEventLoopTest, NestedWaitRunsStreamEndAndNextPlayInsidePlay) {
-    QtEventLoop loop;
+    CollectedErrors errors;
+    QtEventLoop loop(errors);
     Nesting nest;
     bool playing = true, stopping = false;
     int started = 0;
@@ -153,15 +158,13 @@ TEST(QtEventLoopTest, NestedWaitRunsStreamEndAndNextPlayInsidePlay) {
 }
 
 TEST(QtEventLoopTest, AFailureInAnEventIsLoggedAndTheLoopGoesOn) {
-    QtEventLoop loop;
-    QStringList reported;
-    setSkippedErrorReporter([&](const QString& what) { reported << what; });
+    CollectedErrors errors;
+    QtEventLoop loop(errors);
     bool after = false;
     loop.post([] { throw RuntimeError(RuntimeError::FileNotFound, "File not found"); });
     loop.post([&] { after = true; });
     loop.waitUntil([&] { return after; });
-    resetSkippedErrorReporter();
-    EXPECT_EQ(reported, QStringList({"error 53: File not found"}));
+    EXPECT_EQ(errors.list, QStringList({"error 53: File not found"}));
 }
 
 }  // namespace

@@ -25,12 +25,12 @@ QVariantMap MprisPlayerAdaptor::metadataOf(const SongInfo& song) {
     return map;
 }
 
-void MprisPlayerAdaptor::setVolume(double volume) { feed([&] { controls_.setVolume(volume); }); }
-void MprisPlayerAdaptor::Play() { feed([&] { controls_.play(); }); }
-void MprisPlayerAdaptor::Pause() { feed([&] { controls_.pause(); }); }
-void MprisPlayerAdaptor::PlayPause() { feed([&] { controls_.playPause(); }); }
-void MprisPlayerAdaptor::Stop() { feed([&] { controls_.stop(); }); }
-void MprisPlayerAdaptor::Next() { feed([&] { controls_.next(); }); }
-void MprisPlayerAdaptor::Previous() { feed([&] { controls_.previous(); }); }
+void MprisPlayerAdaptor::setVolume(double volume) { feed(controls_.errors(), [&] { controls_.setVolume(volume); }); }
+void MprisPlayerAdaptor::Play() { feed(controls_.errors(), [&] { controls_.play(); }); }
+void MprisPlayerAdaptor::Pause() { feed(controls_.errors(), [&] { controls_.pause(); }); }
+void MprisPlayerAdaptor::PlayPause() { feed(controls_.errors(), [&] { controls_.playPause(); }); }
+void MprisPlayerAdaptor::Stop() { feed(controls_.errors(), [&] { controls_.stop(); }); }
+void MprisPlayerAdaptor::Next() { feed(controls_.errors(), [&] { controls_.next(); }); }
+void MprisPlayerAdaptor::Previous() { feed(controls_.errors(), [&] { controls_.previous(); }); }
 
 }  // namespace sonarium

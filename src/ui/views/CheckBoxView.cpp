@@ -6,7 +6,7 @@
 
 namespace sonarium {
 
-CheckBoxView::CheckBoxView(CheckBox& model, QWidget* parent) : ControlView(model, parent), box_(model) {
+CheckBoxView::CheckBoxView(CheckBox& model, ErrorReporter& errors, QWidget* parent) : ControlView(model, errors, parent), box_(model) {
     clickOnRelease_ = false;
     setTristate(true);
     setFocusPolicy(Qt::StrongFocus);

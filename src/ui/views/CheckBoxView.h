@@ -13,7 +13,7 @@ namespace sonarium {
 
 class CheckBoxView : public ControlView<QCheckBox> {
 public:
-    CheckBoxView(CheckBox& model, QWidget* parent);
+    CheckBoxView(CheckBox& model, ErrorReporter& errors, QWidget* parent);
 
 protected:
     void syncOwn() override;

@@ -10,7 +10,7 @@ namespace sonarium {
 
 class ComboBoxView : public ControlView<QComboBox> {
 public:
-    ComboBoxView(ComboBox& model, QWidget* parent);
+    ComboBoxView(ComboBox& model, ErrorReporter& errors, QWidget* parent);
 
 protected:
     void syncOwn() override;

@@ -6,8 +6,8 @@
 
 namespace sonarium {
 
-CommandButtonView::CommandButtonView(CommandButton& model, QWidget* parent)
-    : ControlView(model, parent), button_(model) {
+CommandButtonView::CommandButtonView(CommandButton& model, ErrorReporter& errors, QWidget* parent)
+    : ControlView(model, errors, parent), button_(model) {
     clickOnRelease_ = false;
     setFocusPolicy(Qt::StrongFocus);
     connect(this, &QAbstractButton::clicked, this, [this] { feed([this] { button_.Click(); }); });

@@ -11,7 +11,7 @@ namespace sonarium {
 
 class CommandButtonView : public ControlView<QAbstractButton> {
 public:
-    CommandButtonView(CommandButton& model, QWidget* parent);
+    CommandButtonView(CommandButton& model, ErrorReporter& errors, QWidget* parent);
 
 protected:
     void syncOwn() override;

@@ -48,7 +48,7 @@ QPointF twipsAt(const QWidget& view, const QMouseEvent& e) {
 
 QColor toQColor(const Color& c) { return QColor(c.r, c.g, c.b); }
 
-void feed(const std::function<void()>& call) { tryStep(call); }
+void feed(ErrorReporter& errors, const std::function<void()>& call) { tryStep(errors, call); }
 
 namespace {
 

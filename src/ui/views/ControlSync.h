@@ -10,6 +10,7 @@
 #include <optional>
 
 #include "controls/Control.h"
+#include "controls/Errors.h"
 
 class QWidget;
 class QMouseEvent;
@@ -34,7 +35,7 @@ QColor toQColor(const Color& c);
 
 // Runs one call into the model from a Qt event. A failure ends here, logged: Qt's event
 // dispatch must never see an exception.
-void feed(const std::function<void()>& call);
+void feed(ErrorReporter& errors, const std::function<void()>& call);
 
 // What syncCommon applied last, so that unchanged state costs nothing.
 struct CommonState {

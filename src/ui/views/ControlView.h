@@ -21,7 +21,7 @@ namespace sonarium {
 template <class Base>
 class ControlView : public Base {
 public:
-    ControlView(Control& model, QWidget* parent) : Base(parent), model_(model) {
+    ControlView(Control& model, ErrorReporter& errors, QWidget* parent) : Base(parent), model_(model), errors_(errors) {
         this->setObjectName(viewName(model));
         // The platform reports every move over a control, not only drags.
         this->setMouseTracking(true);
@@ -104,8 +104,11 @@ protected:
     void feedDown(QMouseEvent* e) { feedMouse(e, &Control::MouseDown, buttonCode(e->button())); }
     void feedUp(QMouseEvent* e) { feedMouse(e, &Control::MouseUp, buttonCode(e->button())); }
     void feedMove(QMouseEvent* e) { feedMouse(e, &Control::MouseMove, buttonsCode(e->buttons())); }
+    // One call into the model from a Qt event, its failure told to the program's reporter.
+    void feed(const std::function<void()>& call) { sonarium::feed(errors_, call); }
 
     Control& model_;
+    ErrorReporter& errors_;
 
 private:
     void feedMouse(QMouseEvent* e, void (Control::*fn)(int, int, double, double), int button) {

@@ -11,11 +11,11 @@
 
 namespace sonarium {
 
-DataGridView::DataGridView(DataGrid& model, QWidget* parent)
-    : ControlView(model, parent), grid_(model), table_(new GridTableModel(model, this)) {
+DataGridView::DataGridView(DataGrid& model, ErrorReporter& errors, QWidget* parent)
+    : ControlView(model, errors, parent), grid_(model), table_(new GridTableModel(model, this)) {
     clickOnRelease_ = false;
     setModel(table_);
-    setItemDelegate(new GridCellDelegate(grid_, this));
+    setItemDelegate(new GridCellDelegate(grid_, errors_, this));
     setSelectionMode(QAbstractItemView::SingleSelection);
     setSelectionBehavior(QAbstractItemView::SelectItems);
     setEditTriggers(QAbstractItemView::DoubleClicked | QAbstractItemView::EditKeyPressed |

@@ -16,7 +16,7 @@ class GridTableModel;
 
 class DataGridView : public ControlView<QTableView> {
 public:
-    DataGridView(DataGrid& model, QWidget* parent);
+    DataGridView(DataGrid& model, ErrorReporter& errors, QWidget* parent);
 
 protected:
     void syncOwn() override;

@@ -13,7 +13,7 @@ namespace sonarium {
 
 class DirListView : public ControlView<QListWidget> {
 public:
-    DirListView(DirListBox& model, QWidget* parent);
+    DirListView(DirListBox& model, ErrorReporter& errors, QWidget* parent);
 
     // The model's row shown in the view's row `row` (-1 the directory, -2 its parent...).
     int modelRow(int row) const { return row - parents_; }

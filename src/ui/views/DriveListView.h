@@ -11,7 +11,7 @@ namespace sonarium {
 
 class DriveListView : public ControlView<QComboBox> {
 public:
-    DriveListView(DriveListBox& model, QWidget* parent);
+    DriveListView(DriveListBox& model, ErrorReporter& errors, QWidget* parent);
 
     void showPopup() override;
 

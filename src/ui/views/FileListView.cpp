@@ -6,7 +6,7 @@
 
 namespace sonarium {
 
-FileListView::FileListView(FileListBox& model, QWidget* parent) : ControlView(model, parent), files_(model) {
+FileListView::FileListView(FileListBox& model, ErrorReporter& errors, QWidget* parent) : ControlView(model, errors, parent), files_(model) {
     clickOnRelease_ = false;
     setUpListWidget(*this);
 }

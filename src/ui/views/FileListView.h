@@ -10,7 +10,7 @@ namespace sonarium {
 
 class FileListView : public ControlView<QListWidget> {
 public:
-    FileListView(FileListBox& model, QWidget* parent);
+    FileListView(FileListBox& model, ErrorReporter& errors, QWidget* parent);
 
 protected:
     void syncOwn() override;

@@ -12,9 +12,10 @@
 
 namespace sonarium {
 
-GridCellEditor::GridCellEditor(DataGrid& grid, QWidget* parent) : QLineEdit(parent), grid_(grid) {
+GridCellEditor::GridCellEditor(DataGrid& grid, ErrorReporter& errors, QWidget* parent)
+    : QLineEdit(parent), grid_(grid), errors_(errors) {
     setFrame(false);
-    connect(this, &QLineEdit::textEdited, this, [this](const QString& t) { feed([&] { grid_.setEditText(t); }); });
+    connect(this, &QLineEdit::textEdited, this, [this](const QString& t) { feed(errors_, [&] { grid_.setEditText(t); }); });
 }
 
 void GridCellEditor::keyPressEvent(QKeyEvent* e) {
@@ -35,7 +36,7 @@ void GridCellEditor::keyPressEvent(QKeyEvent* e) {
     }
     // The handler may open a message box; the editor may be closed meanwhile.
     QPointer<GridCellEditor> self(this);
-    feed([&] { grid_.KeyPress(ascii); });
+    feed(errors_, [&] { grid_.KeyPress(ascii); });
     if (!self) return;
     const QString now = grid_.Text();
     if (now != text()) setText(now);
@@ -44,17 +45,18 @@ void GridCellEditor::keyPressEvent(QKeyEvent* e) {
 
 void GridCellEditor::typeInside(int keyAscii) {
     QPointer<GridCellEditor> self(this);
-    feed([&] {
+    feed(errors_, [&] {
         if (grid_.onKeyPress) grid_.onKeyPress(keyAscii);
     });
     if (!self || keyAscii == 0) return;
     const TypedText typed = typeInto(*this, keyAscii);
     setText(typed.text);
     setCursorPosition(typed.cursor);
-    feed([&] { grid_.setEditText(typed.text); });
+    feed(errors_, [&] { grid_.setEditText(typed.text); });
 }
 
-GridCellDelegate::GridCellDelegate(DataGrid& grid, QObject* parent) : QStyledItemDelegate(parent), grid_(grid) {}
+GridCellDelegate::GridCellDelegate(DataGrid& grid, ErrorReporter& errors, QObject* parent)
+    : QStyledItemDelegate(parent), grid_(grid), errors_(errors) {}
 
 QRect GridCellDelegate::buttonRect(const QRect& cell) {
     const int w = std::min(14, cell.width());
@@ -78,7 +80,7 @@ void GridCellDelegate::paint(QPainter* p, const QStyleOptionViewItem& option, co
 }
 
 QWidget* GridCellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex&) const {
-    return new GridCellEditor(grid_, parent);
+    return new GridCellEditor(grid_, errors_, parent);
 }
 
 void GridCellDelegate::setEditorData(QWidget* editor, const QModelIndex& index) const {
@@ -90,7 +92,7 @@ void GridCellDelegate::setEditorData(QWidget* editor, const QModelIndex& index) 
 }
 
 void GridCellDelegate::setModelData(QWidget*, QAbstractItemModel*, const QModelIndex&) const {
-    feed([&] { grid_.commitEdit(); });
+    feed(errors_, [&] { grid_.commitEdit(); });
 }
 
 // Return and Escape are the program's keys too: its handler sees them first and may drop them,
@@ -102,7 +104,7 @@ bool GridCellDelegate::eventFilter(QObject* object, QEvent* event) {
         if (ascii == 13 || ascii == 27) {
             QPointer<QWidget> alive(editor);
             int left = 0;
-            feed([&] { left = grid_.KeyPress(ascii); });
+            feed(errors_, [&] { left = grid_.KeyPress(ascii); });
             if (left != 0 && alive) emit closeEditor(editor, QAbstractItemDelegate::NoHint);
             return true;
         }

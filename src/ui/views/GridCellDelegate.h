@@ -7,12 +7,13 @@
 #include <QStyledItemDelegate>
 
 #include "controls/DataGrid.h"
+#include "controls/Errors.h"
 
 namespace sonarium {
 
 class GridCellEditor : public QLineEdit {
 public:
-    GridCellEditor(DataGrid& grid, QWidget* parent);
+    GridCellEditor(DataGrid& grid, ErrorReporter& errors, QWidget* parent);
 
 protected:
     void keyPressEvent(QKeyEvent* e) override;
@@ -21,12 +22,13 @@ private:
     void typeInside(int keyAscii);
 
     DataGrid& grid_;
+    ErrorReporter& errors_;
     bool fresh_ = true;  // the first key types at the end, whatever Qt selected on opening
 };
 
 class GridCellDelegate : public QStyledItemDelegate {
 public:
-    GridCellDelegate(DataGrid& grid, QObject* parent);
+    GridCellDelegate(DataGrid& grid, ErrorReporter& errors, QObject* parent);
 
     // Where a cell's button lies, when its column has one.
     static QRect buttonRect(const QRect& cell);
@@ -41,6 +43,7 @@ protected:
 
 private:
     DataGrid& grid_;
+    ErrorReporter& errors_;
 };
 
 }  // namespace sonarium

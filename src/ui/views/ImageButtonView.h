@@ -14,7 +14,7 @@ namespace sonarium {
 
 class ImageButtonView : public ControlView<QAbstractButton> {
 public:
-    ImageButtonView(Image& model, QWidget* parent);
+    ImageButtonView(Image& model, ErrorReporter& errors, QWidget* parent);
 
 protected:
     void paintEvent(QPaintEvent*) override;

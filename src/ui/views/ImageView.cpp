@@ -6,8 +6,8 @@
 
 namespace sonarium {
 
-ImageView::ImageView(Image& model, QWidget* parent)
-    : ControlView(model, parent), image_(model), box_(dynamic_cast<PictureBox*>(&model)) {}
+ImageView::ImageView(Image& model, ErrorReporter& errors, QWidget* parent)
+    : ControlView(model, errors, parent), image_(model), box_(dynamic_cast<PictureBox*>(&model)) {}
 
 void ImageView::paintEvent(QPaintEvent*) {
     QPainter p(this);

@@ -13,7 +13,7 @@ namespace sonarium {
 
 class ImageView : public ControlView<QWidget> {
 public:
-    ImageView(Image& model, QWidget* parent);
+    ImageView(Image& model, ErrorReporter& errors, QWidget* parent);
 
 protected:
     void paintEvent(QPaintEvent*) override;

@@ -6,7 +6,7 @@
 
 namespace sonarium {
 
-LabelView::LabelView(Label& model, QWidget* parent) : ControlView(model, parent), label_(model) {
+LabelView::LabelView(Label& model, ErrorReporter& errors, QWidget* parent) : ControlView(model, errors, parent), label_(model) {
     setTextFormat(Qt::PlainText);
 }
 

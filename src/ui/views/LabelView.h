@@ -11,7 +11,7 @@ namespace sonarium {
 
 class LabelView : public ControlView<QLabel> {
 public:
-    LabelView(Label& model, QWidget* parent);
+    LabelView(Label& model, ErrorReporter& errors, QWidget* parent);
 
 protected:
     void syncOwn() override;

@@ -30,7 +30,7 @@ int rowAfterKey(int key, int current, int count, int page) {
     }
 }
 
-ListBoxView::ListBoxView(ListBox& model, QWidget* parent) : ControlView(model, parent), list_(model) {
+ListBoxView::ListBoxView(ListBox& model, ErrorReporter& errors, QWidget* parent) : ControlView(model, errors, parent), list_(model) {
     clickOnRelease_ = false;
     setUpListWidget(*this);
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int top) {

@@ -13,7 +13,7 @@ namespace sonarium {
 
 class ListBoxView : public ControlView<QListWidget> {
 public:
-    ListBoxView(ListBox& model, QWidget* parent);
+    ListBoxView(ListBox& model, ErrorReporter& errors, QWidget* parent);
 
 protected:
     void syncOwn() override;

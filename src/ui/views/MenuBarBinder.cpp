@@ -9,7 +9,8 @@
 
 namespace sonarium {
 
-MenuBarBinder::MenuBarBinder(QMenuBar& bar, const std::vector<MenuItem*>& topLevel) {
+MenuBarBinder::MenuBarBinder(QMenuBar& bar, const std::vector<MenuItem*>& topLevel, ErrorReporter& errors)
+    : errors_(errors) {
     bound_.reserve(64);
     for (MenuItem* item : topLevel) add(bar, *item, true);
 }
@@ -30,7 +31,7 @@ void MenuBarBinder::add(QWidget& into, MenuItem& item, bool topLevel) {
         b.action = new QAction(&into);
         into.addAction(b.action);
         QObject::connect(b.action, &QAction::triggered, b.action, [this, &item] {
-            feed([&] { item.Click(); });
+            feed(errors_, [&] { item.Click(); });
             for (const Bound& x : bound_)
                 if (x.item == &item) sync(x);
         });

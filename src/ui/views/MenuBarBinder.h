@@ -15,11 +15,13 @@ class QWidget;
 
 namespace sonarium {
 
+class ErrorReporter;
 class MenuItem;
 
 class MenuBarBinder {
 public:
-    MenuBarBinder(QMenuBar& bar, const std::vector<MenuItem*>& topLevel);
+    // The entries' clicks that fail are told to `errors`.
+    MenuBarBinder(QMenuBar& bar, const std::vector<MenuItem*>& topLevel, ErrorReporter& errors);
     ~MenuBarBinder();
     MenuBarBinder(const MenuBarBinder&) = delete;
     MenuBarBinder& operator=(const MenuBarBinder&) = delete;
@@ -42,6 +44,7 @@ private:
     void add(QWidget& into, MenuItem& item, bool topLevel);
     void sync(const Bound& b);
 
+    ErrorReporter& errors_;
     std::vector<Bound> bound_;
 };
 

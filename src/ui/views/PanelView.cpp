@@ -6,7 +6,7 @@
 
 namespace sonarium {
 
-PanelView::PanelView(sonarium::Panel& model, QWidget* parent) : ControlView(model, parent), panel_(model) {
+PanelView::PanelView(sonarium::Panel& model, ErrorReporter& errors, QWidget* parent) : ControlView(model, errors, parent), panel_(model) {
     setFrameShape(QFrame::NoFrame);
 }
 

@@ -11,7 +11,7 @@ namespace sonarium {
 
 class PanelView : public ControlView<QFrame> {
 public:
-    PanelView(sonarium::Panel& model, QWidget* parent);
+    PanelView(sonarium::Panel& model, ErrorReporter& errors, QWidget* parent);
 
 protected:
     QString caption() const override { return panel_.Caption(); }

@@ -10,7 +10,7 @@ namespace sonarium {
 
 class SliderView : public ControlView<QSlider> {
 public:
-    SliderView(Slider& model, QWidget* parent);
+    SliderView(Slider& model, ErrorReporter& errors, QWidget* parent);
 
 protected:
     void syncOwn() override;

@@ -13,7 +13,7 @@ namespace sonarium {
 
 class TextBoxView : public ControlView<QLineEdit> {
 public:
-    TextBoxView(TextBox& model, QWidget* parent);
+    TextBoxView(TextBox& model, ErrorReporter& errors, QWidget* parent);
 
 protected:
     void syncOwn() override;

@@ -25,31 +25,31 @@ namespace sonarium {
 namespace {
 
 template <class View, class Model>
-QWidget* made(Model& model, QWidget* parent) {
-    auto* v = new View(model, parent);
+QWidget* made(Model& model, ErrorReporter& errors, QWidget* parent) {
+    auto* v = new View(model, errors, parent);
     v->refresh();
     return v;
 }
 
 // Most derived kinds first: a command button is a panel, a combo box a list box, a picture
 // box an image.
-QWidget* viewFor(Control& c, QWidget* parent) {
-    if (auto* m = dynamic_cast<DataGrid*>(&c)) return made<DataGridView>(*m, parent);
-    if (auto* m = dynamic_cast<CommandButton*>(&c)) return made<CommandButtonView>(*m, parent);
-    if (auto* m = dynamic_cast<Panel*>(&c)) return made<PanelView>(*m, parent);
+QWidget* viewFor(Control& c, ErrorReporter& errors, QWidget* parent) {
+    if (auto* m = dynamic_cast<DataGrid*>(&c)) return made<DataGridView>(*m, errors, parent);
+    if (auto* m = dynamic_cast<CommandButton*>(&c)) return made<CommandButtonView>(*m, errors, parent);
+    if (auto* m = dynamic_cast<Panel*>(&c)) return made<PanelView>(*m, errors, parent);
     if (auto* m = dynamic_cast<Image*>(&c)) {
         const bool button = !m->ToolTipText().trimmed().isEmpty() && !dynamic_cast<PictureBox*>(m);
-        return button ? made<ImageButtonView>(*m, parent) : made<ImageView>(*m, parent);
+        return button ? made<ImageButtonView>(*m, errors, parent) : made<ImageView>(*m, errors, parent);
     }
-    if (auto* m = dynamic_cast<ComboBox*>(&c)) return made<ComboBoxView>(*m, parent);
-    if (auto* m = dynamic_cast<ListBox*>(&c)) return made<ListBoxView>(*m, parent);
-    if (auto* m = dynamic_cast<Label*>(&c)) return made<LabelView>(*m, parent);
-    if (auto* m = dynamic_cast<TextBox*>(&c)) return made<TextBoxView>(*m, parent);
-    if (auto* m = dynamic_cast<CheckBox*>(&c)) return made<CheckBoxView>(*m, parent);
-    if (auto* m = dynamic_cast<Slider*>(&c)) return made<SliderView>(*m, parent);
-    if (auto* m = dynamic_cast<DriveListBox*>(&c)) return made<DriveListView>(*m, parent);
-    if (auto* m = dynamic_cast<DirListBox*>(&c)) return made<DirListView>(*m, parent);
-    if (auto* m = dynamic_cast<FileListBox*>(&c)) return made<FileListView>(*m, parent);
+    if (auto* m = dynamic_cast<ComboBox*>(&c)) return made<ComboBoxView>(*m, errors, parent);
+    if (auto* m = dynamic_cast<ListBox*>(&c)) return made<ListBoxView>(*m, errors, parent);
+    if (auto* m = dynamic_cast<Label*>(&c)) return made<LabelView>(*m, errors, parent);
+    if (auto* m = dynamic_cast<TextBox*>(&c)) return made<TextBoxView>(*m, errors, parent);
+    if (auto* m = dynamic_cast<CheckBox*>(&c)) return made<CheckBoxView>(*m, errors, parent);
+    if (auto* m = dynamic_cast<Slider*>(&c)) return made<SliderView>(*m, errors, parent);
+    if (auto* m = dynamic_cast<DriveListBox*>(&c)) return made<DriveListView>(*m, errors, parent);
+    if (auto* m = dynamic_cast<DirListBox*>(&c)) return made<DirListView>(*m, errors, parent);
+    if (auto* m = dynamic_cast<FileListBox*>(&c)) return made<FileListView>(*m, errors, parent);
     return nullptr;  // timers, forms
 }
 
@@ -66,7 +66,7 @@ QWidget* ViewFactory::make(Control& c) {
     if (Control* container = c.Container()) {
         if (QWidget* v = make(*container)) parent = v;
     }
-    QWidget* view = viewFor(c, parent);
+    QWidget* view = viewFor(c, errors_, parent);
     views_[&c] = view;
     return view;
 }

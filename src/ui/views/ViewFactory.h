@@ -11,10 +11,12 @@ class QWidget;
 namespace sonarium {
 
 class Control;
+class ErrorReporter;
 
 class ViewFactory {
 public:
-    explicit ViewFactory(QWidget& surface) : surface_(surface) {}
+    // Failures of the calls that the views feed to their models are told to `errors`.
+    ViewFactory(QWidget& surface, ErrorReporter& errors) : surface_(surface), errors_(errors) {}
 
     void build(const std::vector<Control*>& controls);
     // The view of a control made here, or null.
@@ -24,6 +26,7 @@ private:
     QWidget* make(Control& c);
 
     QWidget& surface_;
+    ErrorReporter& errors_;
     std::map<const Control*, QWidget*> views_;
 };
 

@@ -11,7 +11,7 @@ protected:
         write("Config.dat", file);
         M().AppDir = dir.path();
         M().EncoderChoice = 1;
-        tryStep([&] { form1().LoadConfig(); });
+        form1().tryStep([&] { form1().LoadConfig(); });
     }
 };
 
@@ -60,7 +60,7 @@ TEST_F(Config, ACommaInAStoredPathShiftsEveryLaterField) {
     M() = fresh;
     form1().PhotoWidth = 0;
     M().AppDir = dir.path();
-    tryStep([&] { form1().LoadConfig(); });
+    form1().tryStep([&] { form1().LoadConfig(); });
     EXPECT_EQ(M().DatabasePath, "/home/me/Rock");
     // " Pop/Songs.mdb" went to PhotoWidth (no leading number: 0), 1920 to EncoderChoice...
     EXPECT_EQ(form1().PhotoWidth, 0);

@@ -8,7 +8,6 @@
 #include <unistd.h>
 
 #include <QFile>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <optional>
 #include <random>
@@ -19,6 +18,7 @@
 #include "engine/id3/Id3v1Writer.h"
 #include "fixtures/Files.h"
 #include "fixtures/Id3v1Block.h"
+#include "fixtures/ToolRunner.h"
 
 namespace sonarium {
 
@@ -65,11 +65,9 @@ protected:
     }
     // Runs `id3v2` on the file; what it printed, or nothing when it failed.
     std::optional<QString> id3v2(const QStringList& args) {
-        QProcess p;
-        p.start("timeout", QStringList{"-s", "KILL", "10", "id3v2"} + args + QStringList{path()});
-        if (!p.waitForFinished(15000) || p.exitStatus() != QProcess::NormalExit || p.exitCode() != 0)
-            return std::nullopt;
-        return QString::fromLatin1(p.readAllStandardOutput());
+        QByteArray out;
+        if (fixtures::runToolCapture(QStringList{"id3v2"} + args + QStringList{path()}, out, 10) != 0) return {};
+        return QString::fromLatin1(out);
     }
 
     QTemporaryDir dir;

@@ -12,7 +12,6 @@
 #include <chrono>
 #include <functional>
 #include <memory>
-#include <random>
 #include <sys/stat.h>
 
 #include "engine/audio/FallbackSink.h"
@@ -354,59 +353,44 @@ TEST(PlayerSinkTest, ADeviceLostMidSongLeavesTheRestToTheSilentOutputAtTheSongsP
 
 // --- Bad input ---
 
-struct BadFile {
-    enum Opens { No, Yes, Either };
-    const char* name;
-    std::function<QByteArray(const QByteArray& goodMp3)> bytes;
-    Opens opens;
-};
-
-QByteArray randomBytes(int n, unsigned seed) {
-    std::mt19937 gen(seed);
-    QByteArray b(n, '\0');
-    for (auto& c : b) c = static_cast<char>(gen());
-    return b;
-}
-
+// Arbitrary bytes through the decoder are the fuzz test's matter (fuzz_decode); here, what the
+// player makes of a few: refused, or played to the end and the sink, the file untouched.
 TEST(PlayerBadInputTest, NeverCrashesHangsOrChangesTheFile) {
     QTemporaryDir dir;
     const QByteArray good = fileBytes(PlayerFiles::mp3(kCbr));
-    const std::vector<BadFile> cases = {
-        {"zero-length", [](const QByteArray&) { return QByteArray(); }, BadFile::No},
-        {"text", [](const QByteArray&) { return QByteArray("Not a song.\r\nJust some text.\r\n").repeated(200); }, BadFile::No},
-        {"random", [](const QByteArray&) { return randomBytes(64 * 1024, 7); }, BadFile::No},
-        {"truncated", [](const QByteArray& g) { return g.left(g.size() * 2 / 5 + 77); }, BadFile::Yes},
-        {"damaged", [](const QByteArray& g) { return QByteArray(g).replace(g.size() / 2, 3000, randomBytes(3000, 11)); },
-         BadFile::Yes},
-        // Frame headers with nothing behind them: what the library makes of it is its affair.
-        {"headers-only", [](const QByteArray& g) { return g.left(4).repeated(500); }, BadFile::Either},
+    const std::pair<const char*, QByteArray> refused[] = {
+        {"zero-length", QByteArray()},
+        {"text", QByteArray("Not a song.\r\nJust some text.\r\n").repeated(200)},
     };
-    for (const BadFile& c : cases) {
-        SCOPED_TRACE(c.name);
-        const QString path = dir.filePath(QString(c.name) + ".mp3");
-        const QByteArray bytes = c.bytes(good);
+    const std::pair<const char*, QByteArray> played[] = {
+        {"truncated", good.left(good.size() * 2 / 5 + 77)},
+        {"damaged", QByteArray(good).replace(good.size() / 2, 3000, QByteArray(3000, '\xA5'))},
+    };
+    for (const auto& [name, bytes] : refused) {
+        SCOPED_TRACE(name);
+        const QString path = dir.filePath(QString(name) + ".mp3");
         ASSERT_TRUE(writeFile(path, bytes));
         PlayerHarness h;
-        const int result = h.player.Open(path, dir.filePath("out.wav"));
-        if (c.opens != BadFile::Either) {
-            EXPECT_EQ(result == 0, c.opens == BadFile::Yes) << "Open gave " << result;
-        }
-        if (result == 0) {
-            EXPECT_GT(h.player.FrameCount(), 0);
-            h.player.Play();
-            h.waitForEnds();
-            // Played to the sink as well, the last frames and past them.
-            h.settle();
-            ASSERT_EQ(h.player.Open(path, ""), 0);
-            h.player.PlayRange(h.player.FrameCount() - 3, h.player.FrameCount() + 3);
-            h.waitForEnds(2);
-        } else {
-            EXPECT_EQ(h.player.FrameCount(), 0);
-            h.player.Play();
-            h.player.Stop();
-            h.loop.doEvents();
-            EXPECT_EQ(h.ends, 0);
-        }
+        EXPECT_EQ(h.player.Open(path, dir.filePath("out.wav")), 1);
+        EXPECT_EQ(h.player.FrameCount(), 0);
+        h.player.Play();
+        h.player.Stop();
+        h.settle();
+        EXPECT_EQ(h.ends, 0);
+        EXPECT_TRUE(fileBytes(path) == bytes) << "the file was changed";
+    }
+    for (const auto& [name, bytes] : played) {
+        SCOPED_TRACE(name);
+        const QString path = dir.filePath(QString(name) + ".mp3");
+        ASSERT_TRUE(writeFile(path, bytes));
+        PlayerHarness h;
+        ASSERT_EQ(h.player.Open(path, dir.filePath("out.wav")), 0);
+        h.player.Play();
+        h.waitForEnds();
+        // Played to the sink as well, the last frames and past them.
+        ASSERT_EQ(h.player.Open(path, ""), 0);
+        h.player.PlayRange(h.player.FrameCount() - 3, h.player.FrameCount() + 3);
+        h.waitForEnds(2);
         h.settle();
         EXPECT_TRUE(fileBytes(path) == bytes) << "the file was changed";
     }

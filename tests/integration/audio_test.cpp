@@ -1,7 +1,8 @@
 // The output path on generated signals: the tone shelves' response measured through the real
 // processor at two rates, the limiter at full boost, the volume curve, the per-tick peak, the
 // speed stage's tempo and its ends, the null sink's real-time pace, the choice of sink, and the
-// mixer and peak meter components.
+// mixer and peak meter components. The fall-back of a device lost mid-song is played through the
+// player (player_test.cpp).
 #include <gtest/gtest.h>
 #include <unistd.h>
 
@@ -21,6 +22,7 @@
 #include "engine/EngineMixer.h"
 #include "engine/EnginePeakMeter.h"
 #include "engine/audio/AlsaSink.h"
+#include "engine/audio/FallbackSink.h"
 #include "engine/audio/NullSink.h"
 #include "engine/audio/PulseSink.h"
 #include "engine/audio/SoundProcessor.h"
@@ -150,6 +152,7 @@ TEST(Limiter, FullBoostOfFullScaleStaysInRangeWithoutFlattenedTops) {
         // Cutting the tops off a wave boosted about 4 times would leave over 10% here.
         EXPECT_LT(distortion(s, freq, 44100, 44100 / 5), 0.001);
     }
+    // Full-scale noise at the other rate: every transient at once.
     PeakLevel peak;
     SoundProcessor p(tone, peak);
     std::mt19937 random(3);
@@ -266,6 +269,12 @@ QByteArray stderrOf(Fn fn) {
     return file.readAll();
 }
 
+// The device a chosen sink plays on, or null for the silent output.
+AudioDevice* deviceOf(AudioSink* sink) {
+    auto* fallback = dynamic_cast<FallbackSink*>(sink);
+    return fallback ? &fallback->device() : nullptr;
+}
+
 TEST(SinkChoice, ForcedByTheEnvironmentElseOneThatOpens) {
     const QByteArray saved = qgetenv("SONARIUM_AUDIO");
     const bool wasSet = qEnvironmentVariableIsSet("SONARIUM_AUDIO");
@@ -274,8 +283,8 @@ TEST(SinkChoice, ForcedByTheEnvironmentElseOneThatOpens) {
         return createAudioSink();
     };
     EXPECT_NE(dynamic_cast<NullSink*>(chosen("null").get()), nullptr);
-    EXPECT_NE(dynamic_cast<PulseSink*>(chosen("pulse").get()), nullptr);
-    EXPECT_NE(dynamic_cast<AlsaSink*>(chosen("alsa").get()), nullptr);
+    EXPECT_NE(dynamic_cast<PulseSink*>(deviceOf(chosen("pulse").get())), nullptr);
+    EXPECT_NE(dynamic_cast<AlsaSink*>(deviceOf(chosen("alsa").get())), nullptr);
 
     // Whatever this machine has, the automatic choice is a sink that opens.
     auto automatic = chosen(nullptr);
@@ -306,9 +315,8 @@ TEST(EngineMixer, ReportsItsControlsInOrderAndSetsTheSharedTone) {
     };
     mixer.OpenMixer();
     ASSERT_EQ(found.size(), 3u);
-    EXPECT_EQ(std::get<0>(found[0]), "Treble");
-    EXPECT_EQ(std::get<0>(found[1]), "Bass");
-    EXPECT_EQ(std::get<0>(found[2]), "VUMeterWaveOut");
+    const QStringList names{std::get<0>(found[0]), std::get<0>(found[1]), std::get<0>(found[2])};
+    EXPECT_EQ(names, QStringList({"Treble", "Bass", "VUMeterWaveOut"}));
     const auto set = [&](int which, std::int32_t value) {
         return mixer.SetControlValue(std::get<1>(found[which]), std::get<2>(found[which]), 0, value);
     };
@@ -324,14 +332,6 @@ TEST(EngineMixer, ReportsItsControlsInOrderAndSetsTheSharedTone) {
     EXPECT_FALSE(mixer.SetControlValue(std::get<1>(found[0]), std::get<2>(found[1]), 0, 70));
     EXPECT_EQ(tone.treble, 80);
     EXPECT_EQ(tone.bass, 0);
-
-    // A player reading the shared tone hears the change.
-    set(1, 100);
-    PeakLevel peak;
-    SoundProcessor p(tone, peak);
-    auto s = sine(50, 0.1, 44100, 0.4);
-    processInBlocks(p, s, 44100);
-    EXPECT_GT(tailRms(s, 44100 / 5), 3 * 0.1 / std::sqrt(2.0));
 }
 
 TEST(EnginePeakMeter, ReadsOnlyBetweenPrepareAndFree) {

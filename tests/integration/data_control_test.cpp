@@ -28,7 +28,6 @@ namespace sonarium {
 namespace {
 
 using fixtures::fileBytes;
-using fixtures::libraryColumns;
 using fixtures::libraryStatements;
 
 QString sqliteTool(const QString& file, const QString& query) {
@@ -85,48 +84,9 @@ protected:
     SqliteDataControl data;
 };
 
-TEST(JetTranslation, StatementShapesOfTheLibraryBecomeSqlite) {
-    struct Source {
-        QString jet, where, order;
-    };
-    const Source sources[] = {
-        {"Select * From SongData", "", ""},
-        {"Select * From SongData Order By [Album]", "", "\"Album\""},
-        {"Select * From SongData Where [Artist] Like \"*abc*\" Order By [Album]", "\"Artist\" LIKE '*abc*'",
-         "\"Album\""},
-        // The criteria lines, joined: each ends in a blank, Not binds tighter than And, And than Or.
-        {"Select * From SongData Where [Artist] Like (\"A\") Or [Album] Like (\"B\") And Not [Genre] Like "
-         "(\"R\")  "
-         "Order By [File]",
-         "\"Artist\" LIKE ( 'A' ) OR \"Album\" LIKE ( 'B' ) AND NOT \"Genre\" LIKE ( 'R' )", "\"File\""},
-        {"Select * From SongData Where [Key] Like \"it's\" Order By [Path\\File]", "\"Key\" LIKE 'it''s'",
-         "\"Path\\File\""},
-        {"Select * From SongData Where [Web Address] = \"say \"\"hi\"\"\";", "\"Web Address\" = 'say \"hi\"'",
-         ""},
-        // Two minus signs stay two operators, never a comment that hides the rest.
-        {"Select * From SongData Where Year > 1 --1 Order By Year", "\"Year\" > 1 - - 1", "\"Year\""},
-    };
-    for (const Source& s : sources) {
-        const SelectQuery q = translateRecordSource(s.jet);
-        EXPECT_EQ(q.table, "SongData") << s.jet.toStdString();
-        EXPECT_EQ(q.where, s.where) << s.jet.toStdString();
-        EXPECT_EQ(q.orderBy, s.order) << s.jet.toStdString();
-    }
-    EXPECT_EQ(translateRecordSource("SongData").table, "SongData");
-    EXPECT_EQ(translateCriteria("[Song Title] LIKE '*Love*'"), "\"Song Title\" LIKE '*Love*'");
-
-    EXPECT_EQ(translateStatement("Delete * From SongData"), QStringList{"DELETE FROM \"SongData\""});
-    EXPECT_EQ(translateStatement("Create Index NewIndex13 On SongData([Key]) With Ignore Null;"),
-              QStringList{"CREATE INDEX \"NewIndex13\" ON \"SongData\" (\"Key\")"});
-    const QStringList primary = translateStatement(libraryStatements().last());
-    ASSERT_EQ(primary.size(), 3);  // the unique index and the two triggers that refuse a null key
-    EXPECT_EQ(primary[0], "CREATE UNIQUE INDEX \"NewIndex17\" ON \"SongData\" (\"Path\\File\")");
-    const QString table = translateStatement(libraryStatements().first()).front();
-    EXPECT_TRUE(table.contains("\"Song Title\" TEXT(30) COLLATE NOCASE, \"Artist\" TEXT(30)"))
-        << table.toStdString();
-    EXPECT_TRUE(table.contains("\"Info\" TEXT COLLATE NOCASE, \"Path\\File\" TEXT(100) COLLATE NOCASE)"));
-
-    // Text that is not one statement of the dialect fails before SQLite sees it.
+// How the library's statements become SQLite's is seen in what they find and refuse below;
+// here, the text that is not one statement of the dialect and fails before SQLite sees it.
+TEST(JetTranslation, TextOutsideTheDialectFailsWithItsOwnNumber) {
     struct Bad {
         QString jet;
         int number;
@@ -151,43 +111,41 @@ TEST(JetTranslation, StatementShapesOfTheLibraryBecomeSqlite) {
         });
         EXPECT_EQ(n, b.number) << b.jet.toStdString();
     }
+    // Two minus signs stay two operators, never a comment that hides the rest.
+    EXPECT_EQ(translateRecordSource("Select * From SongData Where Year > 1 --1 Order By Year").where,
+              "\"Year\" > 1 - - 1");
 }
 
 TEST(JetLike, WildcardsListsCaseAndAccents) {
     struct Case {
         const char* pattern;
-        const char* value;
-        bool match;
+        const char* matches;
+        const char* misses;  // or null
     };
     const Case cases[] = {
-        {"*abc*", "xxABCyy", true},
-        {"a?c", "abc", true},
-        {"a?c", "ac", false},
-        {"#5", "15", true},
-        {"#5", "x5", false},
-        {"[a-c]x", "Bx", true},
-        {"[!a-c]x", "bx", false},
-        {"[!a-c]x", "dx", true},
-        {"a[*]b", "a*b", true},
-        {"a[*]b", "axb", false},
-        {"x[]y", "xy", true},
-        {"[-a]", "-", true},
-        {"É*", "école", true},
-        {"*É", "josé", true},
-        {"e*", "école", false},
-        {"*ÿ*", "ŸES", true},
-        {"100%", "100%", true},
-        {"_", "a", false},
-        {"*", "", true},
-        {"", "", true},
-        {"", "a", false},
-        {"*a*b*c", "aXbXbXc", true},
-        {"*a*b*c", "aXbXbXd", false},
+        {"*abc*", "xxABCyy", nullptr},
+        {"a?c", "abc", "ac"},
+        {"#5", "15", "x5"},
+        {"[a-c]x", "Bx", nullptr},
+        {"[!a-c]x", "dx", "bx"},
+        {"a[*]b", "a*b", "axb"},
+        {"x[]y", "xy", nullptr},
+        {"[-a]", "-", nullptr},
+        {"É*", "école", nullptr},
+        {"*É", "josé", nullptr},
+        {"e*", "emile", "école"},
+        {"*ÿ*", "ŸES", nullptr},
+        {"100%", "100%", "1000"},
+        {"_", "_", "a"},
+        {"*", "", nullptr},
+        {"", "", "a"},
+        {"*a*b*c", "aXbXbXc", "aXbXbXd"},
     };
     for (const Case& c : cases) {
         const auto p = JetLikePattern::compile(c.pattern);
         ASSERT_TRUE(p.has_value()) << c.pattern;
-        EXPECT_EQ(p->matches(c.value), c.match) << c.pattern << " ~ " << c.value;
+        EXPECT_TRUE(p->matches(c.matches)) << c.pattern << " ~ " << c.matches;
+        EXPECT_TRUE(!c.misses || !p->matches(c.misses)) << c.pattern << " !~ " << c.misses;
     }
     EXPECT_FALSE(JetLikePattern::compile("a[bc").has_value());
     const auto escaped = JetLikePattern::compile("a!*", U'!');  // like() with three arguments
@@ -195,30 +153,23 @@ TEST(JetLike, WildcardsListsCaseAndAccents) {
     EXPECT_FALSE(escaped->matches("ab"));
 }
 
+// The Like above, in SQLite's hands; And before Or is the criteria unit test's matter
+// (criteria_test.cpp), a view that stays on a broken statement the grid's (grid_test.cpp).
 TEST_F(DataControlTest, LikeFiltersRowsTheDialectsWay) {
     open(makeLibrary());
-    add("/m/1.mp3", "Émile");
-    add("/m/2.mp3", "emile");
-    add("/m/3.mp3", "José");
-    add("/m/4.mp3", "O'Brien");
-    add("/m/5.mp3", "ABBA", "Gold");
-    add("/m/6.mp3", "abba", "Arrival");
-
-    EXPECT_EQ(artistsWhere("[Artist] Like \"*é*\""), QStringList({"Émile", "José"}));
-    EXPECT_EQ(artistsWhere("[Artist] Like \"e*\""), QStringList({"emile"}));
-    EXPECT_EQ(artistsWhere("[Artist] Like \"*O'B*\""), QStringList({"O'Brien"}));
-    EXPECT_EQ(artistsWhere("[Artist] Like \"?bb?\""), QStringList({"ABBA", "abba"}));
-    // And binds tighter than Or: the exclusion applies to the alternative just before it.
-    EXPECT_EQ(artistsWhere(
-                  "[Artist] Like (\"emile\") Or [Artist] Like (\"abba\") And Not [Album] Like (\"Gold\") "),
-              QStringList({"emile", "abba"}));
-    EXPECT_EQ(artistsWhere("[Album] Like \"\""), QStringList());  // nulls match nothing
-
-    // A value with a double quote breaks the statement: the view stays as it was.
-    const QStringList before = column("Artist");
+    int n = 0;
+    for (const char* artist : {"Émile", "emile", "José", "O'Brien", "ABBA", "abba"})
+        add(QString("/m/%1.mp3").arg(++n), artist);
+    const std::pair<QString, QStringList> filters[] = {
+        {"[Artist] Like \"*é*\"", {"Émile", "José"}},
+        {"[Artist] Like \"e*\"", {"emile"}},
+        {"[Artist] Like \"*O'B*\"", {"O'Brien"}},
+        {"[Artist] Like \"?bb?\"", {"ABBA", "abba"}},
+        {"[Album] Like \"\"", {}},  // nulls match nothing
+    };
+    for (const auto& [filter, artists] : filters) EXPECT_EQ(artistsWhere(filter), artists) << filter.toStdString();
     data.setRecordSource("Select * From SongData Where [Artist] Like \"Say \"Hi\"\" ");
     EXPECT_EQ(errorOf([&] { data.Refresh(); }), 3075);
-    EXPECT_EQ(column("Artist"), before);
     data.setRecordSource("Select * From SongData Where [Artist] Like \"[x\"");
     EXPECT_EQ(errorOf([&] { data.Refresh(); }), 93);
 }
@@ -495,15 +446,12 @@ TEST_F(DataControlTest, FindFirstSearchesTheViewFromItsTop) {
     EXPECT_EQ(errorOf([&] { rs.FindFirst("[Singer] LIKE '*'"); }), 3070);
 }
 
-TEST_F(DataControlTest, NewLibraryHasTheFieldsInOrderAndTheToolReadsIt) {
+TEST_F(DataControlTest, NewLibraryKeepsItsRulesAndTheToolReadsIt) {
     const QString file = makeLibrary("SonariumData.mdb");
     EXPECT_EQ(errorOf([&] { data.CreateDatabase(file, ""); }), 3204);  // never over an existing file
 
+    // The fields and their widths are the library unit tests' matter (database_test.cpp).
     open(path("Sonariumdata.mdb"));  // the starting name differs in case only
-    for (int i = 0; i < 17; ++i) {
-        EXPECT_EQ(data.recordset().Fields(i).Name(), libraryColumns()[i].first);
-        EXPECT_EQ(data.recordset().Fields(libraryColumns()[i].first).Size(), libraryColumns()[i].second);
-    }
     add("/music/Song.mp3", "Ärzte");
     EXPECT_EQ(sqliteTool(file, "select count(*) from SongData"), "1");
     EXPECT_EQ(sqliteTool(file, "select Artist from SongData"), "Ärzte");

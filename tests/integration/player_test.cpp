@@ -1,20 +1,20 @@
 // The real player on MP3 files made at test time: exact counts and bit-exact decoding against
-// the mpg123 tool, ranges, notifications, the one-StreamEnd-per-run rule, pause, seek, speed
-// and volume through the paced null sink, and bad files that must neither crash, hang nor
-// change.
+// the mpg123 tool, ranges, notifications, one StreamEnd per run across the threads, pause,
+// seek, speed and volume through the paced null sink, a device lost mid-song, and bad files
+// that must neither crash, hang nor change.
 #include <gtest/gtest.h>
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
+#include <atomic>
 #include <chrono>
 #include <functional>
 #include <memory>
-#include <numeric>
-#include <random>
 #include <sys/stat.h>
 
+#include "engine/audio/FallbackSink.h"
 #include "fixtures/Files.h"
 #include "fixtures/Mp3Fixtures.h"
 #include "fixtures/PlayerHarness.h"
@@ -71,53 +71,30 @@ TEST_P(PlayerFileTest, CountsDetailsAndWavMatchTheTool) {
     const Mp3Recipe s = GetParam();
     const QString mp3 = PlayerFiles::mp3(s.name);
     const QString ours = out.filePath("ours.wav"), theirs = out.filePath("theirs.wav");
-    const QString raw = out.filePath("raw.wav");
     ASSERT_EQ(mpg123ToWav(mp3, theirs), 0);
-    ASSERT_EQ(mpg123ToWav(mp3, raw, {"--no-gapless"}), 0);
-    const WavFile tool = readWav(theirs), toolRaw = readWav(raw);
-    ASSERT_TRUE(tool.parsed && toolRaw.parsed);
+    ASSERT_EQ(mpg123ToWav(mp3, out.filePath("raw.wav"), {"--no-gapless"}), 0);
+    const WavFile toolRaw = readWav(out.filePath("raw.wav"));
 
     ASSERT_EQ(h.player.Open(mp3, ""), 0);
     // Without gapless trimming the tool writes every frame whole: its frame count.
-    EXPECT_EQ(h.player.FrameCount(), toolRaw.frames() / kSamplesPerFrame);
-    EXPECT_EQ(toolRaw.frames() % kSamplesPerFrame, 0);
-    EXPECT_NEAR(h.player.Length(), double(tool.frames()) / s.rate, 1e-4);
+    const int frameCount = int(toolRaw.frames() / kSamplesPerFrame);
+    EXPECT_EQ(h.player.FrameCount(), frameCount);
+    EXPECT_NEAR(h.player.Length(), double(readWav(theirs).frames()) / s.rate, 1e-4);
     EXPECT_EQ(h.player.Frequency(), s.rate);
     EXPECT_EQ(h.player.ChannelMode(), s.channels == 1 ? 3 : (s.joint ? 1 : 0));
     const double bytesRate = double(QFileInfo(mp3).size() - (s.id3v1 ? 128 : 0)) * 8 / h.player.Length() / 1000;
-    if (s.vbr)
-        EXPECT_NEAR(h.player.BitRate(), bytesRate, 2.0);
-    else
-        EXPECT_EQ(h.player.BitRate(), s.kbps);
-    if (s.id3v1) {
-        EXPECT_EQ(h.player.TagTitle(), "Sweep");
-        EXPECT_EQ(h.player.TagArtist(), "Sonarium Fixtures");
-        EXPECT_EQ(h.player.TagYear(), 2024);
-        EXPECT_EQ(h.player.TagGenre(), 17);
-    } else {
-        EXPECT_EQ(h.player.TagTitle(), "");
-        EXPECT_EQ(h.player.TagGenre(), 255);
-    }
+    EXPECT_NEAR(h.player.BitRate(), s.vbr ? bytesRate : s.kbps, s.vbr ? 2.0 : 0.0);
+    EXPECT_EQ(h.player.TagTitle(), s.id3v1 ? "Sweep" : "");
+    EXPECT_EQ(h.player.TagGenre(), s.id3v1 ? 17 : 255);
 
+    // The same header and samples as the tool's; every 32nd frame from 0 notified, then one
+    // StreamEnd, last.
     h.player.setNotifyInterval(32);
     decodeWithPlayer(h, mp3, ours);
-    const WavFile mine = readWav(ours);
-    ASSERT_TRUE(mine.parsed);
-    EXPECT_EQ(mine.format, 1);
-    EXPECT_EQ(mine.channels, tool.channels);
-    EXPECT_EQ(mine.rate, tool.rate);
-    EXPECT_EQ(mine.byteRate, tool.byteRate);
-    EXPECT_EQ(mine.blockAlign, tool.blockAlign);
-    EXPECT_EQ(mine.bits, 16);
-    EXPECT_EQ(mine.riffSize, mine.fileSize - 8);
-    EXPECT_EQ(mine.dataSize, tool.dataSize);
-    EXPECT_TRUE(mine.data == tool.data) << "decoded samples differ from the tool's";
-
-    // Every 32nd frame from 0, then one StreamEnd, last.
-    const int frameCount = int(toolRaw.frames() / kSamplesPerFrame);
+    EXPECT_TRUE(fileBytes(ours) == fileBytes(theirs)) << "the WAV differs from the tool's";
     EXPECT_EQ(h.frames, range(0, frameCount - 1, 32));
-    EXPECT_EQ(h.ends, 1);
     EXPECT_EQ(h.events.last(), "end");
+    EXPECT_EQ(h.ends, 1);
 }
 
 INSTANTIATE_TEST_SUITE_P(Fixtures, PlayerFileTest, ::testing::ValuesIn(standardRecipes()),
@@ -137,10 +114,9 @@ TEST_F(PlayerWavTest, PlayRangeWritesExactlyTheFramesAskedAndNotifiesEach) {
     ASSERT_EQ(mpg123ToWav(mp3, wav("tool.wav"), {"--no-gapless", "-k", "10", "-n", "20"}), 0);
     h.player.setNotifyInterval(1);
     decodeWithPlayer(h, mp3, wav("range.wav"), [](Mp3Play& p) { p.PlayRange(10, 29); });
-    const WavFile mine = readWav(wav("range.wav")), tool = readWav(wav("tool.wav"));
+    const WavFile mine = readWav(wav("range.wav"));
     EXPECT_EQ(mine.frames(), 20 * kSamplesPerFrame);
-    EXPECT_EQ(mine.dataSize, mine.data.size());
-    EXPECT_TRUE(mine.data == tool.data) << "frames 10..29 differ from the tool's";
+    EXPECT_TRUE(mine.data == readWav(wav("tool.wav")).data) << "frames 10..29 differ from the tool's";
     EXPECT_EQ(h.frames, range(10, 29));
     EXPECT_EQ(h.ends, 1);
 
@@ -149,18 +125,12 @@ TEST_F(PlayerWavTest, PlayRangeWritesExactlyTheFramesAskedAndNotifiesEach) {
     decodeWithPlayer(h, mp3, wav("all.wav"), [](Mp3Play& p) { p.PlayRange(-5, 1000000); });
     const WavFile all = readWav(wav("all.wav"));
     const int frames = int(all.frames() / kSamplesPerFrame);
-    EXPECT_GT(frames, 70);
     EXPECT_EQ(h.frames, range(0, frames - 1));
-    EXPECT_EQ(h.ends, 1);
     EXPECT_TRUE(all.data.mid(10 * kSamplesPerFrame * 4, 20 * kSamplesPerFrame * 4) == mine.data);
     for (auto [first, last] : {std::pair{30, 10}, std::pair{frames + 5, frames + 9}, std::pair{3, -1}}) {
         h.clear();
         decodeWithPlayer(h, mp3, wav("empty.wav"), [=](Mp3Play& p) { p.PlayRange(first, last); });
-        const WavFile empty = readWav(wav("empty.wav"));
-        EXPECT_TRUE(empty.parsed);
-        EXPECT_EQ(empty.dataSize, 0u);
-        EXPECT_EQ(empty.fileSize, 44);
-        EXPECT_TRUE(h.frames.empty());
+        EXPECT_EQ(fileBytes(wav("empty.wav")).size(), 44) << "a header and no samples";
         EXPECT_EQ(h.events, QStringList({"end"}));
     }
 
@@ -176,7 +146,6 @@ TEST_F(PlayerWavTest, SeekBeforePlayStopMidwayAndFileNames) {
     const QString mp3 = PlayerFiles::mp3(kCbr);
     decodeWithPlayer(h, mp3, wav("full.wav"));
     const QByteArray full = readWav(wav("full.wav")).data;
-    const int frameBytes = kSamplesPerFrame * 4;
 
     // A seek before Play sets where it starts; the next run starts from the start again.
     ASSERT_EQ(h.player.Open(mp3, wav("seek.wav")), 0);
@@ -184,7 +153,7 @@ TEST_F(PlayerWavTest, SeekBeforePlayStopMidwayAndFileNames) {
     EXPECT_EQ(h.player.SeekFrame(40), 0);
     h.player.Play();
     h.waitForEnds(2);
-    EXPECT_TRUE(readWav(wav("seek.wav")).data == full.mid(40 * frameBytes));
+    EXPECT_TRUE(readWav(wav("seek.wav")).data == full.mid(40 * kSamplesPerFrame * 4));
     h.player.Play();
     h.waitForEnds(3);
     EXPECT_TRUE(readWav(wav("seek.wav")).data == full);
@@ -208,13 +177,12 @@ TEST_F(PlayerWavTest, SeekBeforePlayStopMidwayAndFileNames) {
     // The MP3 is found without regard to case; a new WAV keeps the spelling given; an
     // existing one in another case is overwritten, not doubled.
     h.clear();
-    QDir dir(out.path());
     QFile::copy(mp3, out.filePath("Song.mp3"));
     ASSERT_TRUE(writeFile(out.filePath("old.wav"), "stale"));
     decodeWithPlayer(h, out.filePath("SONG.MP3"), out.filePath("New Name.WAV"));
     decodeWithPlayer(h, out.filePath("song.Mp3"), out.filePath("OLD.WAV"));
-    EXPECT_TRUE(dir.entryList(QDir::Files).contains("New Name.WAV"));
-    EXPECT_FALSE(dir.entryList(QDir::Files).contains("OLD.WAV"));
+    const QStringList files = QDir(out.path()).entryList(QDir::Files);
+    EXPECT_TRUE(files.contains("New Name.WAV") && !files.contains("OLD.WAV")) << files.join(", ").toStdString();
     EXPECT_TRUE(readWav(out.filePath("old.wav")).data == full);
     // Decoding a file into itself is refused before anything is written.
     EXPECT_EQ(h.player.Open(out.filePath("Song.mp3"), out.filePath("SONG.MP3")), 1);
@@ -225,7 +193,7 @@ TEST_F(PlayerWavTest, SeekBeforePlayStopMidwayAndFileNames) {
     EXPECT_FALSE(QFileInfo::exists(out.filePath("no")));
 }
 
-// --- The StreamEnd rule ---
+// --- Runs on the worker thread through the paced sink ---
 
 class PlayerRunTest : public ::testing::Test {
 protected:
@@ -240,6 +208,8 @@ protected:
     PlayerHarness h;
 };
 
+// When an end is owed is the rule's matter (stream_end_rule_test); here, that the worker's
+// end and frames arrive as it says across the threads.
 TEST_F(PlayerRunTest, EveryStartedRunEndsWithExactlyOneStreamEnd) {
     h.player.setNotifyInterval(1);
 
@@ -247,64 +217,32 @@ TEST_F(PlayerRunTest, EveryStartedRunEndsWithExactlyOneStreamEnd) {
     startRun();
     h.player.Stop();
     h.player.Stop();  // the same run: nothing more
+    EXPECT_EQ(h.ends, 0);
     h.waitForEnds();
     h.settle();
     EXPECT_EQ(h.ends, 1);
     EXPECT_EQ(h.events.last(), "end");
 
-    // Stopped while paused.
+    // Ended by Close: no StreamEnd and no more of its frames; the next Stop pays the end that
+    // run is owed.
     startRun();
-    h.player.Pause();
+    h.player.Close();
+    const std::size_t framesBefore = h.frames.size();
+    h.settle();
+    EXPECT_EQ(h.ends, 0);
+    EXPECT_EQ(h.frames.size(), framesBefore);
     h.player.Stop();
     h.waitForEnds();
     h.settle();
     EXPECT_EQ(h.ends, 1);
 
-    // Ended by Close, or by the Open of another file: no StreamEnd and no more of its frames;
-    // the next Stop pays the end that run is owed, so a transport waiting on it goes on.
-    for (bool reopen : {false, true}) {
-        startRun();
-        if (reopen)
-            ASSERT_EQ(h.player.Open(PlayerFiles::mp3("vbr_44k_joint"), ""), 0);
-        else
-            h.player.Close();
-        const std::size_t framesBefore = h.frames.size();
-        h.settle();
-        EXPECT_EQ(h.ends, 0) << "reopen " << reopen;
-        EXPECT_EQ(h.frames.size(), framesBefore);
-        h.player.Stop();
-        h.waitForEnds();
-        h.settle();
-        EXPECT_EQ(h.ends, 1) << "reopen " << reopen;
-    }
-
     // A PlayRange over a live run ends that run first: two runs, two ends.
-    h.clear();
-    ASSERT_EQ(h.player.Open(mp3, ""), 0);
-    h.player.Play();
-    h.waitForFrame(0);
+    startRun();
     h.player.PlayRange(70, 72);
     h.waitForEnds(2);
     h.settle();
     EXPECT_EQ(h.ends, 2);
     EXPECT_EQ(std::vector<int>(h.frames.end() - 3, h.frames.end()), range(70, 72));
-
-    // Stop with nothing open or after the end raises nothing; a song opened and never started
-    // (standing silent) is ended by Stop.
-    h.clear();
-    h.player.Stop();
-    ASSERT_EQ(h.player.Open(mp3, ""), 0);
-    h.player.Stop();
-    h.waitForEnds();
-    h.player.Pause();
-    h.player.PlayRange(76, 77);
-    h.waitForEnds(2);
-    h.player.Stop();
-    h.settle();
-    h.player.Close();
-    h.player.Stop();
-    h.settle();
-    EXPECT_EQ(h.events, QStringList({"end", "frame 76", "frame 77", "end"}));
 }
 
 TEST_F(PlayerRunTest, PauseHoldsThePositionAndSeekMovesIt) {
@@ -329,8 +267,7 @@ TEST_F(PlayerRunTest, PauseHoldsThePositionAndSeekMovesIt) {
     ASSERT_EQ(h.player.SeekFrame(70), 0);
     const std::size_t before = h.frames.size();
     h.waitForEnds();
-    const std::vector<int> after(h.frames.begin() + long(before), h.frames.end());
-    EXPECT_EQ(after, range(70, h.player.FrameCount() - 1));
+    EXPECT_EQ(std::vector<int>(h.frames.begin() + long(before), h.frames.end()), range(70, h.player.FrameCount() - 1));
     EXPECT_LT(h.frames[before - 1], 20);
 
     // A seek while paused moves the position; Play resumes there.
@@ -344,6 +281,8 @@ TEST_F(PlayerRunTest, PauseHoldsThePositionAndSeekMovesIt) {
     EXPECT_EQ(std::vector<int>(h.frames.end() - 3, h.frames.end()), range(75, 77));
 }
 
+// The speed stage's tempo and the volume curve are the audio tests' matter; here, that the
+// run goes through them.
 TEST_F(PlayerRunTest, SpeedVolumeAndPeakThroughTheSink) {
     h.player.setNotifyInterval(1);
     ASSERT_EQ(h.player.Open(mp3, ""), 0);
@@ -352,20 +291,14 @@ TEST_F(PlayerRunTest, SpeedVolumeAndPeakThroughTheSink) {
         const auto t0 = std::chrono::steady_clock::now();
         h.player.PlayRange(first, last);
         h.waitForEnds();
+        EXPECT_EQ(h.frames, range(first, last));
         return std::chrono::duration<double>(std::chrono::steady_clock::now() - t0).count();
     };
     h.player.SetSpeed(50);
     const double fast = playRange(0, 15);
-    EXPECT_EQ(h.frames, range(0, 15));
     h.player.SetSpeed(200);
-    const double slow = playRange(0, 15);
-    EXPECT_EQ(h.frames, range(0, 15));
-    EXPECT_GT(slow, 2 * fast) << "speed 200 should take about four times as long as 50";
-    for (int speed : {0, -7, 1, 32767, 100}) {
-        h.player.SetSpeed(std::int16_t(speed));
-        playRange(30, 33);
-        EXPECT_EQ(h.frames, range(30, 33)) << "speed " << speed;
-    }
+    EXPECT_GT(playRange(0, 15), 2 * fast) << "speed 200 should take about four times as long as 50";
+    h.player.SetSpeed(100);
 
     // Volume 0 sends silence; 100 the signal at its own level (a sweep at half scale).
     h.player.SetVolume(0, 0);
@@ -377,100 +310,87 @@ TEST_F(PlayerRunTest, SpeedVolumeAndPeakThroughTheSink) {
     EXPECT_NEAR(h.peak.takeReading(), PeakLevel::Maximum / 2, PeakLevel::Maximum / 8);
 }
 
-TEST(PlayerSinkTest, PlaysThroughTheProgramsOwnChoiceOfOutput) {
-    qputenv("SONARIUM_AUDIO", "null");
-    PlayerHarness h(createAudioSink);
-    h.player.setNotifyInterval(2);
+// A sound device that plays at real-time pace until its write number `failAt`, where it fails
+// for good, as a server that stops or a card that is unplugged.
+struct FailingDevice : AudioDevice {
+    FailingDevice(int failAt, std::atomic<int>& writes) : failAt(failAt), writes(writes) {}
+    bool open(const AudioFormat& format) override { return pace.open(format); }
+    bool write(const float* samples, int frames) override {
+        if (++writes >= failAt) return false;
+        pace.write(samples, frames);
+        return true;
+    }
+    bool drain() override {
+        pace.drain();
+        return writes < failAt;
+    }
+    void reset() override { pace.reset(); }
+    void close() override { pace.close(); }
+
+    NullSink pace;
+    int failAt;
+    std::atomic<int>& writes;
+};
+
+TEST(PlayerSinkTest, ADeviceLostMidSongLeavesTheRestToTheSilentOutputAtTheSongsPace) {
+    std::atomic<int> writes{0};
+    PlayerHarness h([&] { return std::make_unique<FallbackSink>(std::make_unique<FailingDevice>(10, writes)); });
+    h.player.setNotifyInterval(1);
     ASSERT_EQ(h.player.Open(PlayerFiles::mp3(kCbr), ""), 0);
-    h.player.PlayRange(20, 25);
+    const int frames = h.player.FrameCount();
+    const double length = h.player.Length();
+    const auto t0 = std::chrono::steady_clock::now();
+    h.player.Play();
     h.waitForEnds();
+    const double took = std::chrono::duration<double>(std::chrono::steady_clock::now() - t0).count();
     h.settle();
-    EXPECT_EQ(h.events, QStringList({"frame 20", "frame 22", "frame 24", "end"}));
-    qunsetenv("SONARIUM_AUDIO");
+    EXPECT_EQ(h.frames, range(0, frames - 1));
+    EXPECT_EQ(h.events.last(), "end");
+    EXPECT_EQ(h.ends, 1);
+    EXPECT_EQ(writes, 10) << "the failed device is written to no more";
+    EXPECT_GT(took, 0.8 * length) << "the rest of the song was raced through";
 }
 
 // --- Bad input ---
 
-struct BadFile {
-    enum Opens { No, Yes, Either };
-    const char* name;
-    std::function<QByteArray(const QByteArray& goodMp3)> bytes;
-    Opens opens;
-};
-
-QByteArray randomBytes(int n, unsigned seed) {
-    std::mt19937 gen(seed);
-    QByteArray b(n, '\0');
-    for (auto& c : b) c = static_cast<char>(gen());
-    return b;
-}
-
-QByteArray id3v2Prefix() {
-    QByteArray tag("ID3\x03\x00\x00", 6);
-    const int size = 2000;  // synchsafe
-    for (int shift : {21, 14, 7, 0}) tag += static_cast<char>((size >> shift) & 0x7f);
-    tag += QByteArray(size, '\0');
-    tag.replace(10, 4, "TIT2");
-    return tag;
-}
-
+// Arbitrary bytes through the decoder are the fuzz test's matter (fuzz_decode); here, what the
+// player makes of a few: refused, or played to the end and the sink, the file untouched.
 TEST(PlayerBadInputTest, NeverCrashesHangsOrChangesTheFile) {
     QTemporaryDir dir;
     const QByteArray good = fileBytes(PlayerFiles::mp3(kCbr));
-    const std::vector<BadFile> cases = {
-        {"zero-length", [](const QByteArray&) { return QByteArray(); }, BadFile::No},
-        {"text", [](const QByteArray&) { return QByteArray("Not a song.\r\nJust some text.\r\n").repeated(200); }, BadFile::No},
-        {"random", [](const QByteArray&) { return randomBytes(64 * 1024, 7); }, BadFile::No},
-        {"truncated", [](const QByteArray& g) { return g.left(g.size() * 2 / 5 + 77); }, BadFile::Yes},
-        {"id3v2-prefixed", [](const QByteArray& g) { return id3v2Prefix() + g; }, BadFile::Yes},
-        {"damaged", [](const QByteArray& g) {
-             QByteArray d = g;
-             d.replace(d.size() / 2, 3000, randomBytes(3000, 11));
-             return d;
-         }, BadFile::Yes},
-        // Frame headers with nothing behind them: what the library makes of it is its affair.
-        {"headers-only", [](const QByteArray& g) { return g.left(4).repeated(500); }, BadFile::Either},
+    const std::pair<const char*, QByteArray> refused[] = {
+        {"zero-length", QByteArray()},
+        {"text", QByteArray("Not a song.\r\nJust some text.\r\n").repeated(200)},
     };
-    int goodFrames = 0;
-    {
-        PlayerHarness h;
-        ASSERT_EQ(h.player.Open(PlayerFiles::mp3(kCbr), ""), 0);
-        goodFrames = h.player.FrameCount();
-    }
-    for (const BadFile& c : cases) {
-        SCOPED_TRACE(c.name);
-        const QString path = dir.filePath(QString(c.name) + ".mp3");
-        const QByteArray bytes = c.bytes(good);
+    const std::pair<const char*, QByteArray> played[] = {
+        {"truncated", good.left(good.size() * 2 / 5 + 77)},
+        {"damaged", QByteArray(good).replace(good.size() / 2, 3000, QByteArray(3000, '\xA5'))},
+    };
+    for (const auto& [name, bytes] : refused) {
+        SCOPED_TRACE(name);
+        const QString path = dir.filePath(QString(name) + ".mp3");
         ASSERT_TRUE(writeFile(path, bytes));
         PlayerHarness h;
-        const int result = h.player.Open(path, dir.filePath("out.wav"));
-        if (c.opens != BadFile::Either) {
-            EXPECT_EQ(result == 0, c.opens == BadFile::Yes) << "Open gave " << result;
-        }
-        if (result == 0) {
-            EXPECT_GT(h.player.FrameCount(), 0);
-            const QString name(c.name);
-            if (name == "id3v2-prefixed") {
-                EXPECT_EQ(h.player.FrameCount(), goodFrames);
-            }
-            if (name == "truncated") {
-                EXPECT_LT(h.player.FrameCount(), goodFrames);
-            }
-            h.player.setNotifyInterval(1);
-            h.player.Play();
-            h.waitForEnds();
-            // Played to the sink as well, a few frames of it.
-            h.settle();
-            ASSERT_EQ(h.player.Open(path, ""), 0);
-            h.player.PlayRange(h.player.FrameCount() - 3, h.player.FrameCount() + 3);
-            h.waitForEnds(2);
-        } else {
-            EXPECT_EQ(h.player.FrameCount(), 0);
-            h.player.Play();
-            h.player.Stop();
-            h.loop.doEvents();
-            EXPECT_EQ(h.ends, 0);
-        }
+        EXPECT_EQ(h.player.Open(path, dir.filePath("out.wav")), 1);
+        EXPECT_EQ(h.player.FrameCount(), 0);
+        h.player.Play();
+        h.player.Stop();
+        h.settle();
+        EXPECT_EQ(h.ends, 0);
+        EXPECT_TRUE(fileBytes(path) == bytes) << "the file was changed";
+    }
+    for (const auto& [name, bytes] : played) {
+        SCOPED_TRACE(name);
+        const QString path = dir.filePath(QString(name) + ".mp3");
+        ASSERT_TRUE(writeFile(path, bytes));
+        PlayerHarness h;
+        ASSERT_EQ(h.player.Open(path, dir.filePath("out.wav")), 0);
+        h.player.Play();
+        h.waitForEnds();
+        // Played to the sink as well, the last frames and past them.
+        ASSERT_EQ(h.player.Open(path, ""), 0);
+        h.player.PlayRange(h.player.FrameCount() - 3, h.player.FrameCount() + 3);
+        h.waitForEnds(2);
         h.settle();
         EXPECT_TRUE(fileBytes(path) == bytes) << "the file was changed";
     }
@@ -490,47 +410,12 @@ TEST(PlayerBadInputTest, NeverCrashesHangsOrChangesTheFile) {
     ASSERT_TRUE(QFile::copy(PlayerFiles::mp3(kCbr), gone));
     ASSERT_EQ(h.player.Open(gone, dir.filePath("gone.wav")), 0);
     ASSERT_TRUE(QFile::remove(gone));
+    h.player.setNotifyInterval(1);
     h.player.Play();
     h.waitForEnds();
     h.settle();
     EXPECT_EQ(h.ends, 1);
     EXPECT_TRUE(h.frames.empty());
-}
-
-TEST(PlayerFreeFormatTest, DecodesLikeTheTool) {
-    QTemporaryDir dir;
-    const Mp3Recipe s{.name = "free200", .kbps = 200, .freeFormat = true, .seconds = 1.0};
-    const QString mp3 = dir.filePath("free.mp3");
-    ASSERT_TRUE(makeMp3(mp3, s));
-    const QByteArray bytes = fileBytes(mp3);
-    ASSERT_EQ(static_cast<unsigned char>(bytes[2]) >> 4, 0) << "not free format: bit rate index set";
-    ASSERT_EQ(mpg123ToWav(mp3, dir.filePath("tool.wav")), 0);
-    PlayerHarness h;
-    decodeWithPlayer(h, mp3, dir.filePath("ours.wav"));
-    EXPECT_TRUE(readWav(dir.filePath("ours.wav")).data == readWav(dir.filePath("tool.wav")).data);
-}
-
-// --- Tags through the player ---
-
-TEST(PlayerTagTest, WriteTagChangesOnlyTheFieldsSetAndNeverTheAudio) {
-    QTemporaryDir dir;
-    const QString path = dir.filePath("Tagged.mp3");
-    ASSERT_TRUE(QFile::copy(PlayerFiles::mp3("cbr64_44k_mono_tag"), path));
-    const QByteArray before = fileBytes(path);
-    PlayerHarness h;
-    ASSERT_EQ(h.player.Open(dir.filePath("TAGGED.MP3"), ""), 0);
-    h.player.SetTagTitle("New Title");
-    h.player.SetTagYear(1999);
-    h.player.Close();
-    h.player.WriteTag();  // after Close, into the file of the last Open
-    const QByteArray after = fileBytes(path);
-    ASSERT_EQ(after.size(), before.size());
-    EXPECT_TRUE(after.left(after.size() - 128) == before.left(before.size() - 128));
-    ASSERT_EQ(h.player.Open(path, ""), 0);
-    EXPECT_EQ(h.player.TagTitle(), "New Title");
-    EXPECT_EQ(h.player.TagYear(), 1999);
-    EXPECT_EQ(h.player.TagArtist(), "Sonarium Fixtures");
-    EXPECT_EQ(h.player.GenreName(h.player.TagGenre()), "Rock");
 }
 
 }  // namespace

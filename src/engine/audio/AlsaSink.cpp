@@ -36,7 +36,7 @@ bool AlsaSink::deviceOpens() {
 }
 
 bool AlsaSink::open(const AudioFormat& format) {
-    if ((pcm_ || lost_) && format == format_) return true;
+    if (pcm_ && format == format_) return true;
     close();
     if (format.rate <= 0 || format.channels <= 0) return false;
     if (snd_pcm_open(&pcm_, "default", SND_PCM_STREAM_PLAYBACK, 0) < 0) {
@@ -75,39 +75,23 @@ bool AlsaSink::writeFrames(const void* data, int frames) {
     return true;
 }
 
-void AlsaSink::fallBack() {
-    snd_pcm_close(pcm_);
-    pcm_ = nullptr;
-    lost_ = true;
-    fallback_.open(format_);
+bool AlsaSink::write(const float* interleaved, int frames) {
+    if (!pcm_ || frames <= 0) return true;
+    if (useFloat_) return writeFrames(interleaved, frames);
+    converted_.resize(static_cast<std::size_t>(frames) * format_.channels);
+    std::transform(interleaved, interleaved + converted_.size(), converted_.begin(), [](float s) {
+        return static_cast<std::int16_t>(std::lrint(std::clamp(s, -1.0f, 1.0f) * 32767.0f));
+    });
+    return writeFrames(converted_.data(), frames);
 }
 
-void AlsaSink::write(const float* interleaved, int frames) {
-    if (frames <= 0) return;
-    if (pcm_) {
-        bool ok;
-        if (useFloat_) {
-            ok = writeFrames(interleaved, frames);
-        } else {
-            converted_.resize(static_cast<std::size_t>(frames) * format_.channels);
-            std::transform(interleaved, interleaved + converted_.size(), converted_.begin(), [](float s) {
-                return static_cast<std::int16_t>(std::lrint(std::clamp(s, -1.0f, 1.0f) * 32767.0f));
-            });
-            ok = writeFrames(converted_.data(), frames);
-        }
-        if (ok) return;
-        fallBack();
-    }
-    if (lost_) fallback_.write(interleaved, frames);
-}
-
-void AlsaSink::drain() {
+bool AlsaSink::drain() {
     if (pcm_) {
         snd_pcm_drain(pcm_);
         // Draining stops the device; prepare it so that writing can go on.
         snd_pcm_prepare(pcm_);
     }
-    if (lost_) fallback_.drain();
+    return true;
 }
 
 void AlsaSink::reset() {
@@ -115,14 +99,11 @@ void AlsaSink::reset() {
         snd_pcm_drop(pcm_);
         snd_pcm_prepare(pcm_);
     }
-    if (lost_) fallback_.reset();
 }
 
 void AlsaSink::close() {
     if (pcm_) snd_pcm_close(pcm_);
     pcm_ = nullptr;
-    lost_ = false;
-    fallback_.close();
 }
 
 }  // namespace sonarium

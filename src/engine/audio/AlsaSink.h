@@ -2,18 +2,17 @@
 // Output to ALSA's default device with blocking writes of float samples, or 16-bit ones when
 // the device takes no float. ALSA's own error messages are silenced: on a machine without a
 // sound card every open would print several lines. A device that fails for good mid-stream
-// (unplugged) leaves the rest paced by a null sink, so the song still ends on time.
+// (unplugged) is reported to the FallbackSink around it.
 #include <cstdint>
 #include <vector>
 
-#include "engine/audio/AudioSink.h"
-#include "engine/audio/NullSink.h"
+#include "engine/audio/FallbackSink.h"
 
 typedef struct _snd_pcm snd_pcm_t;
 
 namespace sonarium {
 
-class AlsaSink : public AudioSink {
+class AlsaSink : public AudioDevice {
 public:
     static constexpr unsigned kLatencyMicroseconds = 100000;
 
@@ -21,8 +20,8 @@ public:
     ~AlsaSink() override;
     // Same format on an open sink: kept. Another format: the device is opened anew.
     bool open(const AudioFormat& format) override;
-    void write(const float* interleaved, int frames) override;
-    void drain() override;
+    bool write(const float* interleaved, int frames) override;
+    bool drain() override;
     void reset() override;
     void close() override;
 
@@ -31,14 +30,11 @@ public:
 
 private:
     bool writeFrames(const void* data, int frames);
-    void fallBack();
 
     snd_pcm_t* pcm_ = nullptr;
     AudioFormat format_;
     bool useFloat_ = true;
     std::vector<std::int16_t> converted_;
-    bool lost_ = false;
-    NullSink fallback_;
 };
 
 }  // namespace sonarium

@@ -8,6 +8,7 @@
 
 #include "engine/audio/AlsaSink.h"
 #include "engine/audio/AudioSink.h"
+#include "engine/audio/FallbackSink.h"
 #include "engine/audio/NullSink.h"
 #include "engine/audio/PulseSink.h"
 
@@ -22,6 +23,11 @@ void sayOnce(const char* sink, const char* why) {
 constexpr const char* kNull = "silent null output";
 constexpr const char* kAlsa = "ALSA default device";
 
+template <class Device>
+std::unique_ptr<AudioSink> onDevice() {
+    return std::make_unique<FallbackSink>(std::make_unique<Device>());
+}
+
 }  // namespace
 
 std::unique_ptr<AudioSink> createAudioSink() {
@@ -30,19 +36,19 @@ std::unique_ptr<AudioSink> createAudioSink() {
         sayOnce(kNull, "SONARIUM_AUDIO=null");
         return std::make_unique<NullSink>();
     }
-    if (forced == "pulse") return std::make_unique<PulseSink>();
+    if (forced == "pulse") return onDevice<PulseSink>();
     if (forced == "alsa") {
         sayOnce(kAlsa, "SONARIUM_AUDIO=alsa");
-        return std::make_unique<AlsaSink>();
+        return onDevice<AlsaSink>();
     }
     // An unknown value is not an error: the usual choice is made, and the message says why.
     const bool unknown = !forced.isEmpty();
 
-    if (PulseSink::serverAnswers()) return std::make_unique<PulseSink>();
+    if (PulseSink::serverAnswers()) return onDevice<PulseSink>();
     if (AlsaSink::deviceOpens()) {
         sayOnce(kAlsa, unknown ? "SONARIUM_AUDIO is not null, pulse or alsa; no sound server answered"
                                : "no sound server answered");
-        return std::make_unique<AlsaSink>();
+        return onDevice<AlsaSink>();
     }
     sayOnce(kNull, unknown ? "SONARIUM_AUDIO is not null, pulse or alsa; no sound server or device"
                            : "no sound server or device");

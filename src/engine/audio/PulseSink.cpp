@@ -11,7 +11,7 @@ PulseSink::~PulseSink() {
 }
 
 bool PulseSink::open(const AudioFormat& format) {
-    if ((stream_ || lost_) && format == format_) return true;
+    if (stream_ && format == format_) return true;
     close();
     if (format.rate <= 0 || format.channels <= 0 || format.channels > static_cast<int>(PA_CHANNELS_MAX))
         return false;
@@ -37,41 +37,26 @@ bool PulseSink::open(const AudioFormat& format) {
     return true;
 }
 
-void PulseSink::fallBack() {
-    pa_simple_free(stream_);
-    stream_ = nullptr;
-    lost_ = true;
-    fallback_.open(format_);
-}
-
-void PulseSink::write(const float* interleaved, int frames) {
-    if (frames <= 0) return;
-    if (stream_) {
-        const std::size_t bytes = static_cast<std::size_t>(frames) * format_.channels * sizeof(float);
-        int error = 0;
-        if (pa_simple_write(stream_, interleaved, bytes, &error) >= 0) return;
-        fallBack();
-    }
-    if (lost_) fallback_.write(interleaved, frames);
-}
-
-void PulseSink::drain() {
+bool PulseSink::write(const float* interleaved, int frames) {
+    if (!stream_ || frames <= 0) return true;
+    const std::size_t bytes = static_cast<std::size_t>(frames) * format_.channels * sizeof(float);
     int error = 0;
-    if (stream_ && pa_simple_drain(stream_, &error) < 0) fallBack();
-    if (lost_) fallback_.drain();
+    return pa_simple_write(stream_, interleaved, bytes, &error) >= 0;
+}
+
+bool PulseSink::drain() {
+    int error = 0;
+    return !stream_ || pa_simple_drain(stream_, &error) >= 0;
 }
 
 void PulseSink::reset() {
     int error = 0;
     if (stream_) pa_simple_flush(stream_, &error);
-    if (lost_) fallback_.reset();
 }
 
 void PulseSink::close() {
     if (stream_) pa_simple_free(stream_);
     stream_ = nullptr;
-    lost_ = false;
-    fallback_.close();
 }
 
 bool PulseSink::serverAnswers(std::chrono::milliseconds timeout) {

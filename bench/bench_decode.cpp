@@ -11,13 +11,14 @@
 //    (getrusage, all threads) over wall time, as % of one core; the goal is under 2%.
 //
 // Usage: bench_decode [rounds] [seconds of playing]
+#include <sys/resource.h>
+
 #include <QCoreApplication>
 #include <QFile>
 #include <QTemporaryDir>
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
-#include <sys/resource.h>
 #include <vector>
 
 #include "fixtures/Mp3Fixtures.h"
@@ -130,13 +131,15 @@ int main(int argc, char** argv) {
         theirsTotal += bestTheirs;
     }
     const double ratio = theirsTotal / oursTotal;
-    std::printf("%-20s %9s %9.2f %9.2f %8.2f   goal >= 1.0: %s\n", "total", "", oursTotal, theirsTotal,
-                ratio, ratio >= 1.0 ? "met" : "NOT MET");
+    std::printf("%-20s %9s %9.2f %9.2f %8.2f   goal >= 1.0: %s\n", "total", "", oursTotal, theirsTotal, ratio,
+                ratio >= 1.0 ? "met" : "NOT MET");
     double startUp = 1e18;
     for (int r = 0; r < rounds; ++r) startUp = std::min(startUp, toolStartUp());
     const double netTheirs = theirsTotal - startUp * double(recipes.size());
-    std::printf("mpg123 start-up alone (timeout + mpg123 --version): %.2f ms a run; "
-                "ratio without it: %.2f\n", startUp, netTheirs / oursTotal);
+    std::printf(
+        "mpg123 start-up alone (timeout + mpg123 --version): %.2f ms a run; "
+        "ratio without it: %.2f\n",
+        startUp, netTheirs / oursTotal);
 
     std::printf("\nPlaying through the null sink, %.0f s each: CPU of the whole process\n", playSeconds);
     std::printf("%-36s %14s\n", "setting", "% of one core");
@@ -146,8 +149,9 @@ int main(int argc, char** argv) {
         int speed, tone;
     };
     double normal = 0;
-    for (const Row& row : {Row{"speed 100, tone flat", 100, 50}, Row{"speed 100, treble and bass 80", 100, 80},
-                           Row{"speed 50 (tempo 2x, pitch kept)", 50, 50}}) {
+    for (const Row& row :
+         {Row{"speed 100, tone flat", 100, 50}, Row{"speed 100, treble and bass 80", 100, 80},
+          Row{"speed 50 (tempo 2x, pitch kept)", 50, 50}}) {
         const double cpu = playingCpu(song, row.speed, row.tone, playSeconds);
         if (row.speed == 100 && row.tone == 50) normal = cpu;
         std::printf("%-36s %13.2f%%\n", row.name, cpu);

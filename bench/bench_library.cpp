@@ -25,8 +25,8 @@
 #include <functional>
 #include <random>
 
-#include "engine/data/SqliteDataControl.h"
 #include "BenchClock.h"
+#include "engine/data/SqliteDataControl.h"
 #include "fixtures/LibraryStatements.h"
 #include "fixtures/ToolRunner.h"
 

@@ -22,6 +22,9 @@
 // folders takes about twice as long for twice as many.
 //
 // Usage: bench_scan [files [flat]]   (2,000 files, a flat tree of 1,500 then 3,000; flat 0 skips it)
+#include <fcntl.h>
+#include <unistd.h>
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFile>
@@ -30,9 +33,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
-#include <fcntl.h>
 #include <thread>
-#include <unistd.h>
 #include <vector>
 
 #include "BenchClock.h"
@@ -100,8 +101,9 @@ QStringList makeCollection(const QString& root, const QStringList& masters, int 
                                   .arg(i / 12, 4, 10, QLatin1Char('0'));
         const QString file = QStringLiteral("%1/Song %2.mp3").arg(album).arg(i, 5, 10, QLatin1Char('0'));
         QFile out(file);
-        const QByteArray tag = id3v1Block("Song " + QByteArray::number(i), "Artist " + QByteArray::number(i / 24),
-                                          "Album " + QByteArray::number(i / 12), "2001", "", std::uint8_t(i % 80));
+        const QByteArray tag =
+            id3v1Block("Song " + QByteArray::number(i), "Artist " + QByteArray::number(i / 24),
+                       "Album " + QByteArray::number(i / 12), "2001", "", std::uint8_t(i % 80));
         const QByteArray& a = audio[std::size_t(i) % audio.size()];
         if (!QDir().mkpath(album) || !out.open(QIODevice::WriteOnly) || out.write(a) != a.size() ||
             out.write(tag) != tag.size())
@@ -194,8 +196,9 @@ int main(int argc, char** argv) {
     QDir().mkpath(masterDir);
     std::printf("encoding %d songs of 1 to 5 minutes...\n", kMasters);
     const QStringList masters = makeMasters(masterDir);
-    const QStringList files = masters.isEmpty() ? QStringList()
-                                                : makeCollection(base.filePath(QStringLiteral("Music")), masters, count);
+    const QStringList files = masters.isEmpty()
+                                  ? QStringList()
+                                  : makeCollection(base.filePath(QStringLiteral("Music")), masters, count);
     if (files.size() != count || !makeFlat(base.filePath(QStringLiteral("Flat1")), masters[0], flat) ||
         !makeFlat(base.filePath(QStringLiteral("Flat2")), masters[0], 2 * flat)) {
         std::fprintf(stderr, "could not make the files\n");
@@ -211,16 +214,18 @@ int main(int argc, char** argv) {
     const double scanned = scanFresh(base.path(), QStringLiteral("Music"), message);
     const double floor2 = floorLoop(files);
     const double floor = std::min(floor1, floor2);
-    std::printf("files            %d, copies of %d songs with tags of their own, %.1f GB (%s)\n", count, kMasters,
-                double(bytesOf(files)) / 1e9, qPrintable(message));
-    std::printf("warm floor       %8.1f ms  (%.4f ms a file; runs %.1f, %.1f)\n", floor, floor / count, floor1, floor2);
+    std::printf("files            %d, copies of %d songs with tags of their own, %.1f GB (%s)\n", count,
+                kMasters, double(bytesOf(files)) / 1e9, qPrintable(message));
+    std::printf("warm floor       %8.1f ms  (%.4f ms a file; runs %.1f, %.1f)\n", floor, floor / count,
+                floor1, floor2);
     std::printf("warm scan        %8.1f ms  (%.4f ms a file)\n", scanned, scanned / count);
     std::printf("ratio warm       %8.2f  (goal < 3)\n", scanned / floor);
     if (dropCaches()) {
         const double coldFloor = floorLoop(files);
         dropCaches();
         QString coldMessage;
-        const double coldScan = scanFresh(base.path(), QStringLiteral("Music"), coldMessage, QStringLiteral("cold"));
+        const double coldScan =
+            scanFresh(base.path(), QStringLiteral("Music"), coldMessage, QStringLiteral("cold"));
         std::printf("cold floor       %8.1f ms  (%.4f ms a file)\n", coldFloor, coldFloor / count);
         std::printf("cold scan        %8.1f ms  (%.4f ms a file; %s)\n", coldScan, coldScan / count,
                     qPrintable(coldMessage));

@@ -33,10 +33,10 @@
 #include <cstring>
 #include <functional>
 
+#include "app/Application.h"
 #include "fixtures/Id3v1Block.h"
 #include "fixtures/Mp3Fixtures.h"
 #include "fixtures/ToolRunner.h"
-#include "app/Application.h"
 #include "ui/GeneralWindow.h"
 #include "ui/MainWindow.h"
 

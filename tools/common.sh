@@ -9,7 +9,8 @@ BUILD_PACKAGES=(cmake ninja-build g++ pkg-config qt6-base-dev libgl-dev libegl-d
                 libmpg123-dev libsoundtouch-dev libpulse-dev libasound2-dev libsqlite3-dev
                 libgtest-dev fonts-dejavu-core xdg-utils)
 # What the tests and benchmarks need beyond that: reference tools, fixtures' encoder, fuzzing.
-TEST_PACKAGES=(xvfb xauth mpg123 lame libmp3lame-dev id3v2 clang libclang-rt-14-dev dbus playerctl sqlite3)
+TEST_PACKAGES=(xvfb xauth mpg123 lame libmp3lame-dev id3v2 clang libclang-rt-14-dev dbus playerctl sqlite3
+               clang-format)
 
 as_root() {
     if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi

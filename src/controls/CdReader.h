@@ -9,11 +9,11 @@ namespace sonarium {
 class CdReader {
 public:
     virtual ~CdReader() = default;
-    virtual std::int16_t InitCD() = 0;  // 0 = ready
+    virtual std::int16_t InitCD() = 0;                 // 0 = ready
     virtual void SelectDrive(std::int16_t drive) = 0;  // 1-based
     virtual std::int16_t DriveCount() = 0;
-    virtual QString DriveName(std::int16_t drive) = 0;  // 1-based
-    virtual std::int16_t TrackCount() = 0;  // 0 when no readable disc
+    virtual QString DriveName(std::int16_t drive) = 0;         // 1-based
+    virtual std::int16_t TrackCount() = 0;                     // 0 when no readable disc
     virtual std::int32_t TrackLength(std::int16_t track) = 0;  // milliseconds
     virtual std::int32_t TrackSize(std::int16_t track) = 0;
     virtual void SetOwnerName(const QString& name) = 0;

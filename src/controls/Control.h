@@ -62,12 +62,24 @@ public:
     MouseHandler onMouseDown, onMouseUp, onMouseMove;
     std::function<void()> onLostFocus;
 
-    virtual void Click() { if (onClick) onClick(); }
-    void DblClick() { if (onDblClick) onDblClick(); }
-    void MouseDown(int b, int s, double x, double y) { if (onMouseDown) onMouseDown(b, s, x, y); }
-    void MouseUp(int b, int s, double x, double y) { if (onMouseUp) onMouseUp(b, s, x, y); }
-    void MouseMove(int b, int s, double x, double y) { if (onMouseMove) onMouseMove(b, s, x, y); }
-    void LostFocus() { if (onLostFocus) onLostFocus(); }
+    virtual void Click() {
+        if (onClick) onClick();
+    }
+    void DblClick() {
+        if (onDblClick) onDblClick();
+    }
+    void MouseDown(int b, int s, double x, double y) {
+        if (onMouseDown) onMouseDown(b, s, x, y);
+    }
+    void MouseUp(int b, int s, double x, double y) {
+        if (onMouseUp) onMouseUp(b, s, x, y);
+    }
+    void MouseMove(int b, int s, double x, double y) {
+        if (onMouseMove) onMouseMove(b, s, x, y);
+    }
+    void LostFocus() {
+        if (onLostFocus) onLostFocus();
+    }
 
     // Asks the view to give this control the keyboard focus.
     void SetFocus() { ++focusRequests_, changed(); }

@@ -18,7 +18,8 @@ public:
     }
     T& operator[](int i) const {
         if (i < 0 || i >= int(items_.size()))
-            throw RuntimeError(RuntimeError::SubscriptOutOfRange, QStringLiteral("Control array element '%1' doesn't exist").arg(i));
+            throw RuntimeError(RuntimeError::SubscriptOutOfRange,
+                               QStringLiteral("Control array element '%1' doesn't exist").arg(i));
         return *items_[std::size_t(i)];
     }
     int size() const { return int(items_.size()); }

@@ -9,6 +9,8 @@ CurrentDirectory::CurrentDirectory(const QString& start)
 
 void CurrentDirectory::change(const QString& dir) { path_ = filePath(dir); }
 
-QString CurrentDirectory::filePath(const QString& name) const { return QDir::cleanPath(QDir(path_).filePath(name)); }
+QString CurrentDirectory::filePath(const QString& name) const {
+    return QDir::cleanPath(QDir(path_).filePath(name));
+}
 
 }  // namespace sonarium

@@ -190,7 +190,8 @@ void DataGrid::writeCell(int row, int c, const QString& text) {
         throw;
     }
     const int block = row / BlockRows;
-    if (auto it = blocks_.find(block); it != blocks_.end() && std::size_t(row % BlockRows) < it->second.size()) {
+    if (auto it = blocks_.find(block);
+        it != blocks_.end() && std::size_t(row % BlockRows) < it->second.size()) {
         QStringList& texts = it->second[std::size_t(row % BlockRows)];
         if (c < texts.size()) texts[c] = text;
     }
@@ -290,9 +291,9 @@ DataGrid::Look DataGrid::look() const {
 void DataGrid::sync() {
     const Look now = look();
     if (now == seen_) return;
-    const bool reopened = now.database != seen_.database || now.source != seen_.source ||
-                          now.visited != seen_.visited ||
-                          (now.place.kind != seen_.place.kind && (closedOrEmpty(now.place) || closedOrEmpty(seen_.place)));
+    const bool reopened =
+        now.database != seen_.database || now.source != seen_.source || now.visited != seen_.visited ||
+        (now.place.kind != seen_.place.kind && (closedOrEmpty(now.place) || closedOrEmpty(seen_.place)));
     if (reopened) {
         if (std::optional<int> n = RecordReader(data_.recordset()).count())
             total_ = *n;

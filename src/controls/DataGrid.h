@@ -30,8 +30,8 @@ namespace sonarium {
 
 struct GridColumn {
     QString caption;
-    int field = 0;   // field number in the record set
-    int width = 0;   // twips
+    int field = 0;  // field number in the record set
+    int width = 0;  // twips
     bool visible = true;
     bool button = false;  // a cell button in the current row
 };

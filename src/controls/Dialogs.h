@@ -10,23 +10,29 @@ namespace sonarium {
 
 class MenuItem;
 
-enum class MsgButtons { OK = 0, OKCancel = 1, AbortRetryIgnore = 2, YesNoCancel = 3, YesNo = 4, RetryCancel = 5 };
+enum class MsgButtons {
+    OK = 0,
+    OKCancel = 1,
+    AbortRetryIgnore = 2,
+    YesNoCancel = 3,
+    YesNo = 4,
+    RetryCancel = 5
+};
 enum class MsgIcon { None = 0, Critical = 16, Question = 32, Exclamation = 48, Information = 64 };
 enum class MsgResult { OK = 1, Cancel = 2, Abort = 3, Retry = 4, Ignore = 5, Yes = 6, No = 7 };
 
 struct FileDialogRequest {
     QString title;
-    QString filter;   // "Database|*.MDB", pairs of description and pattern joined by "|"
+    QString filter;  // "Database|*.MDB", pairs of description and pattern joined by "|"
     QString initDir;
-    QString fileName; // initial name
+    QString fileName;  // initial name
 };
 
 class Dialogs {
 public:
     virtual ~Dialogs() = default;
 
-    virtual MsgResult msgBox(const QString& text, MsgButtons buttons, MsgIcon icon,
-                             const QString& title) = 0;
+    virtual MsgResult msgBox(const QString& text, MsgButtons buttons, MsgIcon icon, const QString& title) = 0;
     // Returns "" when cancelled, as the platform's input box does.
     virtual QString inputBox(const QString& prompt, const QString& title, const QString& defaultText) = 0;
     // File name chosen, or "" when cancelled.

@@ -1,7 +1,5 @@
 #include "controls/DirectoryListing.h"
 
-#include "controls/FileNames.h"
-
 #include <dirent.h>
 #include <sys/stat.h>
 
@@ -10,6 +8,8 @@
 #include <algorithm>
 #include <cstring>
 #include <ctime>
+
+#include "controls/FileNames.h"
 
 namespace sonarium {
 namespace {
@@ -87,7 +87,8 @@ const DirectoryListing::Entries& DirectoryListing::read(const QString& dir) {
             bool isDir = e->d_type == DT_DIR, isFile = e->d_type == DT_REG;
             if (e->d_type == DT_LNK || e->d_type == DT_UNKNOWN) {
                 struct stat st;
-                if (::fstatat(fd, e->d_name, &st, 0) == 0) isDir = S_ISDIR(st.st_mode), isFile = S_ISREG(st.st_mode);
+                if (::fstatat(fd, e->d_name, &st, 0) == 0)
+                    isDir = S_ISDIR(st.st_mode), isFile = S_ISREG(st.st_mode);
             }
             if (isDir) listing.entries.dirs << childPath(dir, name);
             if (isFile) listing.entries.files << name;

@@ -19,8 +19,8 @@ class DirectoryListing {
 public:
     // The full paths of the visible (non-dot) sub-directories of `dir` (symlinks to
     // directories included), sorted as folder lists show them, and the names of its visible
-    // regular files (symlinks to them included) in the order read. A directory that cannot be read has neither. Resource paths (":/...") are listed
-    // too, never kept.
+    // regular files (symlinks to them included) in the order read. A directory that cannot be read has
+    // neither. Resource paths (":/...") are listed too, never kept.
     struct Entries {
         QStringList dirs;
         QStringList files;

@@ -1,7 +1,5 @@
 #include "controls/FileNames.h"
 
-#include "controls/DirectoryListing.h"
-
 #include <sys/stat.h>
 
 #include <QDir>
@@ -12,6 +10,8 @@
 #include <string>
 #include <utility>
 #include <vector>
+
+#include "controls/DirectoryListing.h"
 
 namespace sonarium {
 namespace {
@@ -150,7 +150,8 @@ QStringList matchNames(const QStringList& names, const QString& patterns) {
 
     QStringList matched;
     for (const QString& name : names)
-        if (std::any_of(wanted.begin(), wanted.end(), [&](const QString& p) { return wildcardMatch(p, name); }))
+        if (std::any_of(wanted.begin(), wanted.end(),
+                        [&](const QString& p) { return wildcardMatch(p, name); }))
             matched << name;
     std::sort(matched.begin(), matched.end(), lessIgnoringCase);
     return matched;

@@ -41,7 +41,9 @@ public:
     std::function<void(int& keyCode, int shift)> onKeyDown;
 
     // Views call these.
-    void Activate() { if (onActivate) onActivate(); }
+    void Activate() {
+        if (onActivate) onActivate();
+    }
     bool KeyDown(int keyCode, int shift) {
         if (onKeyDown) onKeyDown(keyCode, shift);
         return keyCode == 0;  // swallowed

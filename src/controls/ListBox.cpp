@@ -13,14 +13,13 @@ bool listLess(const QString& a, const QString& b) {
 
 void ListBox::setList(int i, const QString& text) {
     if (i < 0 || i >= rows_.size())
-        throw RuntimeError(RuntimeError::InvalidPropertyIndex, QStringLiteral("Invalid property array index"));
+        throw RuntimeError(RuntimeError::InvalidPropertyIndex,
+                           QStringLiteral("Invalid property array index"));
     rows_[i] = text;
     notify();
 }
 
-void ListBox::setTopIndex(int i) {
-    set(topIndex_, std::clamp(i, 0, std::max(0, int(rows_.size()) - 1)));
-}
+void ListBox::setTopIndex(int i) { set(topIndex_, std::clamp(i, 0, std::max(0, int(rows_.size()) - 1))); }
 
 void ListBox::setSorted(bool s) {
     sorted_ = s;
@@ -36,7 +35,8 @@ void ListBox::AddItem(const QString& text, int at) {
         pos = int(rows_.size());
     } else {
         if (at > rows_.size())
-            throw RuntimeError(RuntimeError::InvalidCall, QStringLiteral("Invalid procedure call or argument"));
+            throw RuntimeError(RuntimeError::InvalidCall,
+                               QStringLiteral("Invalid procedure call or argument"));
         pos = at;
     }
     rows_.insert(pos, text);

@@ -15,13 +15,21 @@ public:
 
     const QString& Name() const { return name_; }
     const QString& Caption() const { return caption_; }
-    void setCaption(const QString& c) { if (c != caption_) caption_ = c, changed(); }
+    void setCaption(const QString& c) {
+        if (c != caption_) caption_ = c, changed();
+    }
     bool Checked() const { return checked_; }
-    void setChecked(bool c) { if (c != checked_) checked_ = c, changed(); }
+    void setChecked(bool c) {
+        if (c != checked_) checked_ = c, changed();
+    }
     bool Enabled() const { return enabled_; }
-    void setEnabled(bool e) { if (e != enabled_) enabled_ = e, changed(); }
+    void setEnabled(bool e) {
+        if (e != enabled_) enabled_ = e, changed();
+    }
     bool Visible() const { return visible_; }
-    void setVisible(bool v) { if (v != visible_) visible_ = v, changed(); }
+    void setVisible(bool v) {
+        if (v != visible_) visible_ = v, changed();
+    }
     bool isSeparator() const { return caption_ == QLatin1String("-"); }
     // A key that runs the entry from the window ("F4"), shown beside the caption.
     const QString& Shortcut() const { return shortcut_; }
@@ -31,7 +39,9 @@ public:
     const std::vector<MenuItem*>& children() const { return children_; }
 
     std::function<void()> onClick;
-    void Click() { if (onClick) onClick(); }
+    void Click() {
+        if (onClick) onClick();
+    }
 
 private:
     QString name_, caption_, shortcut_;

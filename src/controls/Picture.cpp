@@ -20,11 +20,15 @@ std::uint32_t Picture::pixel(int x, int y) const {
 }
 
 Picture Picture::cut(int x, int y, int w, int h) const {
-    if (!data_ || x < 0 || y < 0 || w <= 0 || h <= 0 || x + w > data_->width ||
-        y + h > data_->height)
+    if (!data_ || x < 0 || y < 0 || w <= 0 || h <= 0 || x + w > data_->width || y + h > data_->height)
         throw RuntimeError(RuntimeError::InvalidPropertyValue,
                            QStringLiteral("Clip rectangle %1, %2, %3, %4 outside a %5 x %6 bitmap")
-                               .arg(x).arg(y).arg(w).arg(h).arg(width()).arg(height()));
+                               .arg(x)
+                               .arg(y)
+                               .arg(w)
+                               .arg(h)
+                               .arg(width())
+                               .arg(height()));
     std::vector<std::uint32_t> px(std::size_t(w) * h);
     for (int row = 0; row < h; ++row)
         for (int col = 0; col < w; ++col)

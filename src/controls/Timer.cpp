@@ -26,7 +26,9 @@ void Timer::unschedule() {
 void Timer::reschedule() {
     unschedule();
     if (Enabled() && interval_ > 0)
-        id_ = loop_.startTimer(interval_, [this] { if (onTimer) onTimer(); });
+        id_ = loop_.startTimer(interval_, [this] {
+            if (onTimer) onTimer();
+        });
 }
 
 }  // namespace sonarium

@@ -9,7 +9,9 @@ namespace sonarium {
 class Timer : public Control {
 public:
     Timer(QString name, EventLoop& loop, int interval = 0)
-        : Control(std::move(name)), loop_(loop), interval_(interval) { Control::setEnabled(false); }
+        : Control(std::move(name)), loop_(loop), interval_(interval) {
+        Control::setEnabled(false);
+    }
     ~Timer() override { unschedule(); }
 
     int Interval() const { return interval_; }

@@ -12,7 +12,8 @@ public:
     virtual ~ToneMixer() = default;
     virtual void OpenMixer() = 0;
     // Sets the control that the pair names to value per cent of its range.
-    virtual bool SetControlValue(std::int32_t id0, std::int32_t id1, std::int16_t zero, std::int32_t value) = 0;
+    virtual bool SetControlValue(std::int32_t id0, std::int32_t id1, std::int16_t zero,
+                                 std::int32_t value) = 0;
 
     std::function<void(const QString& name, std::int32_t id0, std::int32_t id1)> onControlFound;
 };

@@ -14,9 +14,7 @@ constexpr std::array<char16_t, 32> kHigh = {
     0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x009D, 0x017E, 0x0178,  // 98-9F
 };
 
-char16_t decodeByte(unsigned char b) {
-    return b >= 0x80 && b <= 0x9F ? kHigh[b - 0x80] : char16_t(b);
-}
+char16_t decodeByte(unsigned char b) { return b >= 0x80 && b <= 0x9F ? kHigh[b - 0x80] : char16_t(b); }
 
 // The byte of a code point, or -1 when the code page has none.
 int encodeCodePoint(uint c) {

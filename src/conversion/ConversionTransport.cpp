@@ -9,8 +9,6 @@ void Form1::CheckForBlade() {}
 
 void Form1::ConversionPlay() {}
 
-bool Form1::Mp3ToWavTargetOk() {
-    return true;
-}
+bool Form1::Mp3ToWavTargetOk() { return true; }
 
 }  // namespace sonarium

@@ -14,8 +14,6 @@ std::optional<std::int32_t> EnginePeakMeter::Read() {
     return level_.takeReading();
 }
 
-void EnginePeakMeter::Free() {
-    prepared_ = false;
-}
+void EnginePeakMeter::Free() { prepared_ = false; }
 
 }  // namespace sonarium

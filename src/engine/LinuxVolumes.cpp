@@ -44,9 +44,7 @@ bool isPseudo(const QByteArray& type) {
     return pseudo.contains(type);
 }
 
-bool under(const QString& path, const QString& dir) {
-    return path == dir || path.startsWith(dir + u'/');
-}
+bool under(const QString& path, const QString& dir) { return path == dir || path.startsWith(dir + u'/'); }
 
 // Mount points the system keeps for itself; the user does not browse them for songs.
 bool isSystemMount(const QString& mp) {

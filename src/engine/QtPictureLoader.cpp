@@ -49,7 +49,8 @@ Picture QtPictureLoader::load(const QString& file) {
     const QByteArray format = reader.format().toLower();
     if (format.isEmpty()) invalid(file, QStringLiteral("not an image"));
     if (!isAcceptedFormat(format))
-        invalid(file, QStringLiteral("%1 is not a GIF, BMP, JPEG or PNG image").arg(QString::fromLatin1(format)));
+        invalid(file,
+                QStringLiteral("%1 is not a GIF, BMP, JPEG or PNG image").arg(QString::fromLatin1(format)));
     if (format == "bmp" && bitmapCutShort(path, info.size()))
         invalid(file, QStringLiteral("the bitmap is cut short"));
     QImage image = reader.read();

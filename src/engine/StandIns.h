@@ -10,7 +10,6 @@
 
 namespace sonarium {
 
-
 // Refuses every job, so a run ends at once with the program's own "open error" message.
 class StandInEncoder : public Mp3Encoder {
 public:

@@ -27,9 +27,7 @@ struct Canvas {
 
 }  // namespace
 
-Picture indentPicture() {
-    return Canvas(Size, Size, 0xFF26282Cu, 0xFF141518u, 0xFF4B4F57u).picture();
-}
+Picture indentPicture() { return Canvas(Size, Size, 0xFF26282Cu, 0xFF141518u, 0xFF4B4F57u).picture(); }
 
 Picture orderPicture() {
     Canvas c(Size, Size, 0xFF3A3D44u, 0xFF6A6F78u, 0xFF141518u);

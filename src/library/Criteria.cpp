@@ -35,7 +35,10 @@ void Form1::AddCriterion(const QString& kind) {
     tryStep([&] { value = C.data.recordset().Fields(MenuColumn).Value().toString(); });
     QString start = kind;
     if (kind == QStringLiteral("Where") && list.ListCount() > 0) start = QStringLiteral("Or");
-    tryStep([&] { list.AddItem(start + QStringLiteral(" [") + field + QStringLiteral("] Like (\"") + value + QStringLiteral("\") ")); });
+    tryStep([&] {
+        list.AddItem(start + QStringLiteral(" [") + field + QStringLiteral("] Like (\"") + value +
+                     QStringLiteral("\") "));
+    });
 }
 
 void Form1::mnuClearCriteria_Click() {
@@ -134,7 +137,8 @@ void Form1::cmdAutoSet_Click() {
         for (std::int32_t i = 1; i <= count; ++i) {
             tryStep([&] { lstSongs.AddItem(records.Fields(QStringLiteral("File")).Value().toString()); });
             tryStep([&] {
-                SongPathOf(lstSongs.ListCount() - 1) = records.Fields(QStringLiteral("Path")).Value().toString() + u'/';
+                SongPathOf(lstSongs.ListCount() - 1) =
+                    records.Fields(QStringLiteral("Path")).Value().toString() + u'/';
             });
             tryStep([&] { records.MoveNext(); });
         }

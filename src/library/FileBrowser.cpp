@@ -29,7 +29,9 @@ void Form1::Dir1_Change() {
     if (SearchRunning) return;
     tryStep([&] { CurrentDir = Dir1.Path().trimmed(); });
     tryStep([&] { LastDir = lastDirName(CurrentDir, Drive1.DriveOf(CurrentDir)); });
-    tryStep([&] { if (!CurrentDir.endsWith(u'/')) CurrentDir += u'/'; });
+    tryStep([&] {
+        if (!CurrentDir.endsWith(u'/')) CurrentDir += u'/';
+    });
     if (!mnuEdit.Checked()) {
         tryStep([&] { ClearRTF(); });
         tryStep([&] { GetRTF(); });
@@ -45,7 +47,8 @@ void Form1::Dir1_Change() {
     const QStringList kinds = {QStringLiteral(".GIF"), QStringLiteral(".BMP"), QStringLiteral(".JPG")};
     for (const QString& kind : kinds) tryStep([&] { Photo.setPicture(C.pictures.load(base + kind)); });
     tryStep([&] { frmMiniPlayer.Photo.setPicture(Picture()); });
-    for (const QString& kind : kinds) tryStep([&] { frmMiniPlayer.Photo.setPicture(C.pictures.load(base + kind)); });
+    for (const QString& kind : kinds)
+        tryStep([&] { frmMiniPlayer.Photo.setPicture(C.pictures.load(base + kind)); });
     SizePhoto();
     setMousePointer(DefaultPointer);
 }
@@ -67,8 +70,10 @@ void Form1::Drive1_Change() {
             Dir1.setPath(Drive1.Drive());
         } catch (const RuntimeError&) {
             tryStep([&] { Dir1.setPath(oldPath); });
-            if (C.dialogs.msgBox(QStringLiteral("Not ready reading Drive ") + Drive1.Drive().toUpper() + QStringLiteral(" Retry?"),
-                                 MsgButtons::YesNo, MsgIcon::Exclamation, QStringLiteral("Change Drive")) == MsgResult::Yes) {
+            if (C.dialogs.msgBox(QStringLiteral("Not ready reading Drive ") + Drive1.Drive().toUpper() +
+                                     QStringLiteral(" Retry?"),
+                                 MsgButtons::YesNo, MsgIcon::Exclamation,
+                                 QStringLiteral("Change Drive")) == MsgResult::Yes) {
                 retry = true;
             } else {
                 tryStep([&] { Drive1.setDrive(Dir1.Path()); });
@@ -87,12 +92,14 @@ void Form1::Dir1_LostFocus() {
 void Form1::Dir1_MouseDown(int button, int, double, double) {
     if (button != RightButton) return;
     try {
-        const QString answer = C.dialogs.inputBox(QStringLiteral("Enter name of new directory"),
-                                                  QStringLiteral("Add Directory to ") + Dir1.Path(), QString());
+        const QString answer =
+            C.dialogs.inputBox(QStringLiteral("Enter name of new directory"),
+                               QStringLiteral("Add Directory to ") + Dir1.Path(), QString());
         if (answer.isEmpty()) return;
-        const QString created = Dir1.Path() == QLatin1String("/") ? Dir1.Path() + answer : Dir1.Path() + u'/' + answer;
-        if (C.dialogs.msgBox(QStringLiteral("Create directory - ") + created, MsgButtons::OKCancel, MsgIcon::None,
-                             QStringLiteral("New Directory")) != MsgResult::OK)
+        const QString created =
+            Dir1.Path() == QLatin1String("/") ? Dir1.Path() + answer : Dir1.Path() + u'/' + answer;
+        if (C.dialogs.msgBox(QStringLiteral("Create directory - ") + created, MsgButtons::OKCancel,
+                             MsgIcon::None, QStringLiteral("New Directory")) != MsgResult::OK)
             return;
         // One new directory, named by the user: a slash would make it a path elsewhere.
         if (answer.contains(u'/') || !QDir().mkdir(created))

@@ -6,6 +6,7 @@
 namespace sonarium {
 
 const QStringList& genreTable() {
+    // clang-format off
     static const QStringList table = {
         "Blues", "Classic Rock", "Country", "Dance", "Disco", "Funk", "Grunge", "Hip -Hop", "Jazz", "Metal",
         "New Age", "Oldies", "Other", "Pop", "R& B", "Rap", "Reggae", "Rock", "Techno", "Industrial",
@@ -17,6 +18,7 @@ const QStringList& genreTable() {
         "Christian Rap", "Pop/Funk", "Jungle", "Native American", "Cabaret", "New Wave", "Psychadelic", "Rave",
         "Showtunes", "Trailer", "Lo -Fi", "Tribal", "Acid Punk", "Acid Jazz", "Polka", "Retro", "Musical",
         "Rock & Roll", "Hard Rock"};
+    // clang-format on
     return table;
 }
 

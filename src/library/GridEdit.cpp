@@ -6,8 +6,16 @@
 namespace sonarium {
 
 namespace {
-enum ColumnNumber { PathColumn = 0, TitleColumn = 2, ArtistColumn = 3, AlbumColumn = 4, CommentColumn = 5,
-              GenreColumn = 6, YearColumn = 8, InfoColumn = 15 };
+enum ColumnNumber {
+    PathColumn = 0,
+    TitleColumn = 2,
+    ArtistColumn = 3,
+    AlbumColumn = 4,
+    CommentColumn = 5,
+    GenreColumn = 6,
+    YearColumn = 8,
+    InfoColumn = 15
+};
 constexpr int Backspace = 8;
 
 QString keyOf(Recordset& records) { return records.Fields(QStringLiteral("Path\\File")).Value().toString(); }
@@ -17,8 +25,7 @@ QString keyOf(Recordset& records) { return records.Fields(QStringLiteral("Path\\
 bool Form1::EditLocked() {
     bool locked = false;
     tryStep([&] {
-        locked = !lstSongs.Text().isEmpty() &&
-                 keyOf(C.data.recordset()).toUpper() == M.SongFile.toUpper();
+        locked = !lstSongs.Text().isEmpty() && keyOf(C.data.recordset()).toUpper() == M.SongFile.toUpper();
     });
     if (locked)
         C.dialogs.msgBox(QStringLiteral("Cannot edit song selected in song queue"), MsgButtons::OK,

@@ -23,8 +23,14 @@ void Form1::imgDown_Click(int index) {
         tryStep([&] { mnuFilter.setCaption(RemoveFilter); });
         tryStep([&] { mnuFilterAutoSet.setEnabled(false); });
     }
-    tryStep([&] { mnuExclude.setCaption(QStringLiteral("Exclude selected ") + name() + QStringLiteral(" from 'Auto-Queue' criteria")); });
-    tryStep([&] { mnuAdd.setCaption(QStringLiteral("Add selected ") + name() + QStringLiteral(" to 'Auto-Queue' criteria")); });
+    tryStep([&] {
+        mnuExclude.setCaption(QStringLiteral("Exclude selected ") + name() +
+                              QStringLiteral(" from 'Auto-Queue' criteria"));
+    });
+    tryStep([&] {
+        mnuAdd.setCaption(QStringLiteral("Add selected ") + name() +
+                          QStringLiteral(" to 'Auto-Queue' criteria"));
+    });
     tryStep([&] { mnuSearch.setCaption(QStringLiteral("Search for ") + name()); });
     MenuColumn = std::int16_t(index);
     tryStep([&] {
@@ -73,8 +79,8 @@ void Form1::mnuSearch_Click() {
     tryStep([&] { C.data.recordset().FindFirst(u'[' + name() + QStringLiteral("] LIKE '") + text + u'\''); });
     tryStep([&] {
         if (C.data.recordset().NoMatch())
-            C.dialogs.msgBox(QStringLiteral("No ") + name() + QStringLiteral(" found"), MsgButtons::OK, MsgIcon::None,
-                             QStringLiteral("Search"));
+            C.dialogs.msgBox(QStringLiteral("No ") + name() + QStringLiteral(" found"), MsgButtons::OK,
+                             MsgIcon::None, QStringLiteral("Search"));
     });
 }
 

@@ -21,7 +21,9 @@ void Form1::DBGrid1_RowColChange() {
     QString dir;
     tryStep([&] { dir = fieldOf(records, "Path") + u'/'; });
     tryStep([&] {
-        if (dir.isEmpty()) throw RuntimeError(RuntimeError::InvalidCall, QStringLiteral("Invalid procedure call or argument"));
+        if (dir.isEmpty())
+            throw RuntimeError(RuntimeError::InvalidCall,
+                               QStringLiteral("Invalid procedure call or argument"));
         LastDir = folderName(dir);
     });
     tryStep([&] { Photo.setVisible(false); });
@@ -65,7 +67,8 @@ void Form1::CmdDeleteFile_Click() {
     });
     if (!any) return;
     if (C.dialogs.msgBox(QStringLiteral("Permanently remove file ") + name + QStringLiteral(" from disk"),
-                         MsgButtons::OKCancel, MsgIcon::Exclamation, QStringLiteral("Delete File")) != MsgResult::OK)
+                         MsgButtons::OKCancel, MsgIcon::Exclamation,
+                         QStringLiteral("Delete File")) != MsgResult::OK)
         return;
     tryStep([&] {
         if (!QFile::remove(resolveFileName(name)))

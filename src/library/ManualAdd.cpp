@@ -40,7 +40,9 @@ void Form1::FrmGeneral_cmdAdd_Click() {
         const QString wanted = entry.toUpper();
         for (int i = 1; i <= count; ++i) {
             bool same = false;
-            tryStep([&] { same = records.Fields(QStringLiteral("Path\\File")).Value().toString().toUpper() == wanted; });
+            tryStep([&] {
+                same = records.Fields(QStringLiteral("Path\\File")).Value().toString().toUpper() == wanted;
+            });
             if (same) {
                 found = true;
                 break;
@@ -56,8 +58,8 @@ void Form1::FrmGeneral_cmdAdd_Click() {
     writeFileColumns(C.errors, records, C.mp3, entry, dir, fileName, durationText(seconds));
     tryStep([&] { records.Update(); });
     tryStep([&] {
-        C.dialogs.msgBox(found ? QStringLiteral("File Updated") : QStringLiteral("File Added"), MsgButtons::OK,
-                         MsgIcon::Information, QStringLiteral("Manual Update"));
+        C.dialogs.msgBox(found ? QStringLiteral("File Updated") : QStringLiteral("File Added"),
+                         MsgButtons::OK, MsgIcon::Information, QStringLiteral("Manual Update"));
     });
     tryStep([&] { C.mp3.Close(); });
 }

@@ -34,7 +34,9 @@ void Form1::FrmGeneral_cmdCancel_Click() {
 
 void Form1::FrmGeneral_CmdClose_Click() { frmGeneral.Hide(); }
 
-void Form1::FrmGeneral_Dir1_Change() { tryStep([&] { frmGeneral.File1.setPath(frmGeneral.Dir1.Path()); }); }
+void Form1::FrmGeneral_Dir1_Change() {
+    tryStep([&] { frmGeneral.File1.setPath(frmGeneral.Dir1.Path()); });
+}
 
 // As the main window's drive change: a drive that isn't ready is asked about until the user
 // gives up, and the drive list then goes back to the drive of the directory shown.
@@ -48,7 +50,8 @@ void Form1::FrmGeneral_Drive1_Change() {
             g.Dir1.setPath(g.Drive1.Drive());
         } catch (const RuntimeError&) {
             tryStep([&] { g.Dir1.setPath(oldPath); });
-            if (C.dialogs.msgBox(QStringLiteral("Not ready reading Drive ") + g.Drive1.Drive().toUpper() + QStringLiteral(" Retry?"),
+            if (C.dialogs.msgBox(QStringLiteral("Not ready reading Drive ") + g.Drive1.Drive().toUpper() +
+                                     QStringLiteral(" Retry?"),
                                  MsgButtons::YesNo, MsgIcon::Exclamation,
                                  QStringLiteral("Change Drive")) == MsgResult::Yes)
                 retry = true;

@@ -102,7 +102,8 @@ void Form1::DoSearch() {
         records.MoveFirst();
         if (!fitsRecordLoop(count)) return;
         for (int i = 1; i <= count; ++i) {
-            tryStep([&] { KnownPaths->set(i, records.Fields(QStringLiteral("Path\\File")).Value().toString()); });
+            tryStep(
+                [&] { KnownPaths->set(i, records.Fields(QStringLiteral("Path\\File")).Value().toString()); });
             tryStep([&] { records.MoveNext(); });
         }
     });

@@ -26,7 +26,7 @@ QString nameWithoutExtension(const QString& fileName);
 // the tag's number), Duration, with the tag of the file open in `mp3`. Nothing is cut to its
 // column: a write that fails (a value too wide) is skipped and leaves that column as it was,
 // and a key too wide is then found missing by Update. The remaining columns are untouched.
-void writeFileColumns(ErrorReporter& errors, Recordset& record, Mp3Player& mp3, const QString& entry, const QString& dir,
-                      const QString& fileName, const QString& duration);
+void writeFileColumns(ErrorReporter& errors, Recordset& record, Mp3Player& mp3, const QString& entry,
+                      const QString& dir, const QString& fileName, const QString& duration);
 
 }  // namespace sonarium

@@ -22,7 +22,8 @@ FileDialogRequest setDialog(const QString& appDir) {
 
 void Form1::mnuSaveSongSet_Click() {
     if (lstSongs.ListCount() == 0) {
-        C.dialogs.msgBox(QStringLiteral("Song Queue Empty!"), MsgButtons::OK, MsgIcon::Critical, QStringLiteral("Save"));
+        C.dialogs.msgBox(QStringLiteral("Song Queue Empty!"), MsgButtons::OK, MsgIcon::Critical,
+                         QStringLiteral("Save"));
         return;
     }
     QString name = C.dialogs.saveFile(setDialog(M.AppDir));
@@ -32,8 +33,8 @@ void Form1::mnuSaveSongSet_Click() {
     // The overwrite question is asked for the name as typed; with ".EST" appended below, an
     // existing set of that name is replaced unasked.
     if (fileExists(name) &&
-        C.dialogs.msgBox(QStringLiteral("File already exists, overwrite?"), MsgButtons::YesNo, MsgIcon::Exclamation,
-                         QStringLiteral("Save")) == MsgResult::No)
+        C.dialogs.msgBox(QStringLiteral("File already exists, overwrite?"), MsgButtons::YesNo,
+                         MsgIcon::Exclamation, QStringLiteral("Save")) == MsgResult::No)
         return;
     if (!hasSetExtension(name)) name += QStringLiteral(".EST");
     TextFieldWriter out;
@@ -73,7 +74,8 @@ void Form1::mnuSongSets_Click() {
 // Unlike the menu's load, this selects the first row, whose click loads the first song.
 void Form1::lstSongSets_DblClick() {
     tryStep([&] {
-        TextFieldReader in = TextFieldReader::open(resolveFileName(currentDirectory.filePath(lstSongSets.Text() + QStringLiteral(".EST"))));
+        TextFieldReader in = TextFieldReader::open(
+            resolveFileName(currentDirectory.filePath(lstSongSets.Text() + QStringLiteral(".EST"))));
         ReadQueue(in);
     });
     tryStep([&] { lstSongs.setListIndex(0); });
@@ -88,10 +90,11 @@ void Form1::ReadQueue(TextFieldReader& in) {
     tryStep([&] { lstSongs.Clear(); });
     QString title;
     for (int i = 0; !in.atEnd(); ++i) {
-        if (!in.atEnd()) tryStep([&] {
-            QString& slot = SongPathOf(i);
-            slot = in.readString();
-        });
+        if (!in.atEnd())
+            tryStep([&] {
+                QString& slot = SongPathOf(i);
+                slot = in.readString();
+            });
         if (!in.atEnd()) tryStep([&] { title = in.readString(); });
         tryStep([&] { lstSongs.AddItem(title); });
     }

@@ -9,13 +9,14 @@ namespace sonarium {
 // statement: a year that isn't a number loses only the year.
 void Form1::UpdateTag() {
     if (M.SongPlaying) {
-        C.dialogs.msgBox(QStringLiteral("Can't update whilst track is playing"), MsgButtons::OK, MsgIcon::Information,
-                         QStringLiteral("Update"));
+        C.dialogs.msgBox(QStringLiteral("Can't update whilst track is playing"), MsgButtons::OK,
+                         MsgIcon::Information, QStringLiteral("Update"));
         return;
     }
     tryStep([&] { C.mp3.Close(); });
     tryStep([&] {
-        C.mp3.Open(SongPathOf(M.CurrentSong) + lstSongs.List(M.CurrentSong) + QStringLiteral(".MP3"), QString());
+        C.mp3.Open(SongPathOf(M.CurrentSong) + lstSongs.List(M.CurrentSong) + QStringLiteral(".MP3"),
+                   QString());
     });
     if (!txtTitle.Text().isEmpty()) tryStep([&] { C.mp3.SetTagTitle(txtTitle.Text()); });
     if (!txtYear.Text().isEmpty()) tryStep([&] { C.mp3.SetTagYear(yearNumber(txtYear.Text())); });

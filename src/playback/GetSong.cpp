@@ -4,15 +4,13 @@
 #include "controls/SongNames.h"
 #include "playback/SongTag.h"
 #include "shell/Form1.h"
-#include "shell/TextFields.h"
 #include "shell/FrmMiniPlayer.h"
+#include "shell/TextFields.h"
 
 namespace sonarium {
 
 namespace {
-QString twoDigits(std::int32_t n) {
-    return QStringLiteral("%1").arg(n, 2, 10, QLatin1Char('0'));
-}
+QString twoDigits(std::int32_t n) { return QStringLiteral("%1").arg(n, 2, 10, QLatin1Char('0')); }
 }  // namespace
 
 const QString& Form1::SongPathOf(int row) const {
@@ -61,7 +59,8 @@ bool Form1::GetSong(std::int16_t& index) {
     // Until the file opens or the user gives up; a retry always plays, whatever the mode.
     while (rc != 0) {
         QString question;
-        tryStep([&] { question = QStringLiteral("Open failed on ") + base() + QStringLiteral(".MP3 Retry?"); });
+        tryStep(
+            [&] { question = QStringLiteral("Open failed on ") + base() + QStringLiteral(".MP3 Retry?"); });
         if (C.dialogs.msgBox(question, MsgButtons::YesNo, MsgIcon::None, QStringLiteral("Open")) !=
             MsgResult::Yes) {
             Fading = false;

@@ -35,8 +35,6 @@ void Form1::mnuLoopSong_Click() {
     tryStep([&] { MiniShowLoop(true); });
 }
 
-void Form1::mnuStopAfterSong_Click() {
-    mnuStopAfterSong.setChecked(!mnuStopAfterSong.Checked());
-}
+void Form1::mnuStopAfterSong_Click() { mnuStopAfterSong.setChecked(!mnuStopAfterSong.Checked()); }
 
 }  // namespace sonarium

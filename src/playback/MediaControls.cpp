@@ -53,7 +53,9 @@ std::int64_t MediaControls::positionUs() const {
     return std::int64_t(F.LastFrame) * 1'000'000 / F.FramesPerSecond;
 }
 
-double MediaControls::volume() const { return std::clamp(F.M.Volume, std::int16_t(0), std::int16_t(100)) / 100.0; }
+double MediaControls::volume() const {
+    return std::clamp(F.M.Volume, std::int16_t(0), std::int16_t(100)) / 100.0;
+}
 
 void MediaControls::setVolume(double volume) {
     if (!std::isfinite(volume)) return;

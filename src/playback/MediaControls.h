@@ -13,10 +13,10 @@ class Form1;
 
 // The song the player holds, as the desktop shows it.
 struct SongInfo {
-    int row = -1;             // its queue row; -1 when no song is loaded
-    QString title;            // the tag's title, else the row's text
-    QString artist, album;    // empty when the tag has none
-    QString url;              // the song file's encoded file:// address
+    int row = -1;           // its queue row; -1 when no song is loaded
+    QString title;          // the tag's title, else the row's text
+    QString artist, album;  // empty when the tag has none
+    QString url;            // the song file's encoded file:// address
     std::int64_t lengthUs = 0;
     bool operator==(const SongInfo&) const = default;
 };

@@ -1,7 +1,7 @@
 // Volume, treble and bass: the mixer component and the three sliders of the window.
 #include "controls/Errors.h"
-#include "shell/Form1.h"
 #include "playback/SliderTravel.h"
+#include "shell/Form1.h"
 
 namespace sonarium {
 
@@ -49,8 +49,12 @@ void Form1::ToneSlider_MouseUp(ToneSlider) { SliderDragging = false; }
 // dragging or not, so merely passing over one sends its working value; the volume is sent only
 // while dragging, and becomes the listener's volume unless a fade is running.
 void Form1::ToneSlider_MouseMove(ToneSlider which, double y) {
-    Image& slider = which == ToneSlider::Volume ? SLiderVolume : which == ToneSlider::Treble ? SliderTreble : SliderBass;
-    const int top100 = which == ToneSlider::Volume ? VolumeTop : which == ToneSlider::Treble ? TrebleTop : BassTop;
+    Image& slider = which == ToneSlider::Volume   ? SLiderVolume
+                    : which == ToneSlider::Treble ? SliderTreble
+                                                  : SliderBass;
+    const int top100 = which == ToneSlider::Volume   ? VolumeTop
+                       : which == ToneSlider::Treble ? TrebleTop
+                                                     : BassTop;
     if (SliderDragging) {
         tryStep([&] {
             const int top = toInt32(slider.Top() + y - slider.Height() / 2.0);

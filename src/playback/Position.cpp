@@ -3,8 +3,8 @@
 // time by that rounding.
 #include "controls/Errors.h"
 #include "shell/Form1.h"
-#include "shell/TextFields.h"
 #include "shell/FrmMiniPlayer.h"
+#include "shell/TextFields.h"
 
 namespace sonarium {
 
@@ -42,7 +42,10 @@ void Form1::FrameNotify(std::int32_t frame) {
         rest = seconds - 60 * minutes;
     });
     if (timeKnown) {
-        tryStep([&] { lblTime.setCaption(SongLengthText + QStringLiteral(" / ") + twoDigits(minutes) + u':' + twoDigits(rest)); });
+        tryStep([&] {
+            lblTime.setCaption(SongLengthText + QStringLiteral(" / ") + twoDigits(minutes) + u':' +
+                               twoDigits(rest));
+        });
         if (frmMiniPlayer.Visible()) tryStep([&] { MiniShowElapsed(minutes, rest); });
     }
 

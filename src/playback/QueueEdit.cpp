@@ -19,8 +19,8 @@ void Form1::cmdAddToQueue_Click() {
 // to the new count, leaving the former last row's section one place too far down.
 void Form1::cmdDelete_Click() {
     if (lstSongs.ListIndex() < 0) {
-        C.dialogs.msgBox(QStringLiteral("Song not selected, click on a song in the song queue"), MsgButtons::OK,
-                         MsgIcon::Exclamation, QStringLiteral("Delete"));
+        C.dialogs.msgBox(QStringLiteral("Song not selected, click on a song in the song queue"),
+                         MsgButtons::OK, MsgIcon::Exclamation, QStringLiteral("Delete"));
         return;
     }
     const int r = lstSongs.ListIndex();

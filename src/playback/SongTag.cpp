@@ -36,9 +36,7 @@ QString midText(const QString& text, int start, int length) {
     return text.mid(start - 1, length);
 }
 
-QString songTagText(const QString& buffer, int p) {
-    return midText(buffer, p + 3, 127 - (p + 3));
-}
+QString songTagText(const QString& buffer, int p) { return midText(buffer, p + 3, 127 - (p + 3)); }
 
 SongTagFields songTagFields(const QString& text) {
     return {midText(text, 1, 30), midText(text, 31, 30), midText(text, 61, 30), midText(text, 91, 4),

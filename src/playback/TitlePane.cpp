@@ -2,8 +2,8 @@
 // user fills the queue.
 #include "controls/Errors.h"
 #include "controls/FileNames.h"
-#include "shell/TextFields.h"
 #include "shell/Form1.h"
+#include "shell/TextFields.h"
 
 namespace sonarium {
 

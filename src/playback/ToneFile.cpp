@@ -1,12 +1,11 @@
 // The song's own treble and bass: a .TB file beside the song, and the two save commands.
 #include "controls/Errors.h"
 #include "controls/FileNames.h"
-#include "shell/Form1.h"
 #include "playback/SliderTravel.h"
+#include "shell/Form1.h"
 #include "shell/FrmMiniPlayer.h"
 
 namespace sonarium {
-
 
 // After a song loads, the sliders and the mixer show its tone while Treble and Bass hold the
 // defaults again (step 7). So saving straight after loading writes the defaults over the song's
@@ -26,8 +25,12 @@ void Form1::LoadTB() {
         });
     }
     if (frmMiniPlayer.Visible()) {
-        tryStep([&] { frmMiniPlayer.SliderTreble.setTop(toInt32((100 - M.Treble) * M.MiniSliderStep + M.MiniSliderTop)); });
-        tryStep([&] { frmMiniPlayer.SliderBass.setTop(toInt32((100 - M.Bass) * M.MiniSliderStep + M.MiniSliderTop)); });
+        tryStep([&] {
+            frmMiniPlayer.SliderTreble.setTop(toInt32((100 - M.Treble) * M.MiniSliderStep + M.MiniSliderTop));
+        });
+        tryStep([&] {
+            frmMiniPlayer.SliderBass.setTop(toInt32((100 - M.Bass) * M.MiniSliderStep + M.MiniSliderTop));
+        });
     } else {
         tryStep([&] { SliderBass.setTop(slider::topFor(slider::BassTop, M.Bass)); });
         tryStep([&] { SliderTreble.setTop(slider::topFor(slider::TrebleTop, M.Treble)); });

@@ -4,8 +4,8 @@
 
 #include "controls/Errors.h"
 #include "shell/Form1.h"
-#include "shell/TextFields.h"
 #include "shell/FrmMiniPlayer.h"
+#include "shell/TextFields.h"
 
 namespace sonarium {
 
@@ -65,7 +65,8 @@ void Form1::TimerMix_Timer() {
                 tryStep([&] { imgVU[i].setPicture(off ? imgVUPurple.picture() : lit.picture()); });
             else
                 tryStep([&] {
-                    frmMiniPlayer.imgVU[i].setPicture(off ? frmMiniPlayer.imgVUPurple.picture() : miniLit.picture());
+                    frmMiniPlayer.imgVU[i].setPicture(off ? frmMiniPlayer.imgVUPurple.picture()
+                                                          : miniLit.picture());
                 });
         }
     };

@@ -4,8 +4,8 @@
 
 namespace sonarium {
 
-Form1::Form1(Module1& m, Components& c, CurrentDirectory& current, DriveDirectories& drives, FrmGeneral& general,
-             Form2& f2, FrmMiniPlayer& mini)
+Form1::Form1(Module1& m, Components& c, CurrentDirectory& current, DriveDirectories& drives,
+             FrmGeneral& general, Form2& f2, FrmMiniPlayer& mini)
     : Form(QStringLiteral("Form1")),
       Form1Controls(c, drives, current.path()),
       M(m),
@@ -96,8 +96,12 @@ void Form1::wireHandlers() {
     // Fade, position and speed
     Timer1.onTimer = [this] { Timer1_Timer(); };
     C.mp3.onFrameNotify = [this](std::int32_t frame) { FrameNotify(frame); };
-    imgButtonSong.onMouseDown = [this](int b, int s, double x, double y) { imgButtonSong_MouseDown(b, s, x, y); };
-    imgButtonSong.onMouseMove = [this](int b, int s, double x, double y) { imgButtonSong_MouseMove(b, s, x, y); };
+    imgButtonSong.onMouseDown = [this](int b, int s, double x, double y) {
+        imgButtonSong_MouseDown(b, s, x, y);
+    };
+    imgButtonSong.onMouseMove = [this](int b, int s, double x, double y) {
+        imgButtonSong_MouseMove(b, s, x, y);
+    };
     imgButtonSong.onMouseUp = [this](int b, int s, double x, double y) { imgButtonSong_MouseUp(b, s, x, y); };
     cmdSpeedUp.onClick = [this] { cmdSpeedUp_Click(); };
     cmdSpeedDown.onClick = [this] { cmdSpeedDown_Click(); };

@@ -64,8 +64,8 @@ public:
     void SaveConfig();
 
     // ---- Procedures of the other subsystems that start-up and shutdown call ----
-    void OpenMixerAtLoad();    // mixer component and ControlFound
-    void OpenPeakMeter();      // VU meter's start-up steps, with their trace
+    void OpenMixerAtLoad();  // mixer component and ControlFound
+    void OpenPeakMeter();    // VU meter's start-up steps, with their trace
     void InitGenre();
     void MakeDatabase(const QString& file);
     void InitCD();
@@ -107,7 +107,7 @@ public:
     // ---- end of grid ----
     // ---- Library: scanner and manual add ----
     void wireScanner();
-    void cmdSearch_Click();   // also the scan's cancel button
+    void cmdSearch_Click();  // also the scan's cancel button
     void DoSearch();
     // One directory of the walk, its sub-directories first; true when the walk is to stop.
     bool ScanDirectory(QString& newPath, std::int32_t& dirCount, QString& backUp);
@@ -121,7 +121,7 @@ public:
     void FrmGeneral_cmdAdd_Click();
     void FrmGeneral_Drive1_Change();
     void FrmGeneral_Dir1_Change();
-    std::int32_t NewTitles = 0;  // records added by the present scan
+    std::int32_t NewTitles = 0;                       // records added by the present scan
     std::shared_ptr<class KnownPathList> KnownPaths;  // library/KnownPaths.h
     QStringList ScanTrail;  // real paths of the directories the walk is in, below its first level
     // ---- end of scanner ----
@@ -238,15 +238,15 @@ public:
     void cmdSetTimeCancel_Click();
 
     // ---- Procedures of later work that loading and the transport call ----
-    void LoadRTF(const QString& file);                 // info pages
-    void ClearRTF();                                   // empties the info viewer
-    void GetRTF();                                     // the directory's info pages
-    void LoadKaraoke(const QString& file);             // karaoke timings of the song
-    void WriteKaraoke();                               // ends a karaoke recording
-    void KaraokeFrame(std::int32_t frame);             // records and follows karaoke points
-    void CheckForBlade();                              // the external encoder's stop question
-    void ConversionPlay();                             // Play in the CD and WAV conversion modes
-    bool Mp3ToWavTargetOk();                           // the overwrite question of MP3 to WAV
+    void LoadRTF(const QString& file);      // info pages
+    void ClearRTF();                        // empties the info viewer
+    void GetRTF();                          // the directory's info pages
+    void LoadKaraoke(const QString& file);  // karaoke timings of the song
+    void WriteKaraoke();                    // ends a karaoke recording
+    void KaraokeFrame(std::int32_t frame);  // records and follows karaoke points
+    void CheckForBlade();                   // the external encoder's stop question
+    void ConversionPlay();                  // Play in the CD and WAV conversion modes
+    bool Mp3ToWavTargetOk();                // the overwrite question of MP3 to WAV
     // The mini player's share of loading and the transport.
     void MiniShowSongLength();
     void MiniShowChannels(std::int16_t channelMode);

@@ -18,6 +18,7 @@ Form1Controls::Form1Controls(Components& c, DriveDirectories& drives, const QStr
 
 std::vector<Control*> Form1Controls::allControls() const {
     auto* self = const_cast<Form1Controls*>(this);
+    // clang-format off
     std::vector<Control*> all = {
         &self->imgStick, &self->PicTopPanel, &self->PicView, &self->PicMixer, &self->PicTitleBoxes,
         &self->PicRightPanel, &self->PicEncode, &self->PicDatabase, &self->imgSize,
@@ -48,8 +49,11 @@ std::vector<Control*> Form1Controls::allControls() const {
         &self->lblHour, &self->lblMinute, &self->lstHour, &self->lstMinute, &self->cmdSetTimeOK,
         &self->cmdSetTimeCancel,
     };
-    for (auto* arr : {&Title}) for (auto& c : *arr) all.push_back(c.get());
-    for (auto* arr : {&imgVU, &imgButon, &imgDown}) for (auto& c : *arr) all.push_back(c.get());
+    // clang-format on
+    for (auto* arr : {&Title})
+        for (auto& c : *arr) all.push_back(c.get());
+    for (auto* arr : {&imgVU, &imgButon, &imgDown})
+        for (auto& c : *arr) all.push_back(c.get());
     return all;
 }
 

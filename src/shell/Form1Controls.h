@@ -17,9 +17,9 @@ struct Form1Controls {
     Form1Controls(Components& c, DriveDirectories& drives, const QString& startDir);
 
     // Backgrounds cut from the skin's panel sheet.
-    PictureBox imgStick{"imgStick"}, PicTopPanel{"PicTopPanel"}, PicView{"PicView"},
-        PicMixer{"PicMixer"}, PicTitleBoxes{"PicTitleBoxes"}, PicRightPanel{"PicRightPanel"},
-        PicEncode{"PicEncode"}, PicDatabase{"PicDatabase"};
+    PictureBox imgStick{"imgStick"}, PicTopPanel{"PicTopPanel"}, PicView{"PicView"}, PicMixer{"PicMixer"},
+        PicTitleBoxes{"PicTitleBoxes"}, PicRightPanel{"PicRightPanel"}, PicEncode{"PicEncode"},
+        PicDatabase{"PicDatabase"};
     Image imgSize{"imgSize"};
 
     // Transport
@@ -47,7 +47,8 @@ struct Form1Controls {
     // VU meter
     Panel PanelVU{"PanelVU"};
     ControlArray<Image> imgVU{"imgVU", 19};
-    Image imgVUGreen{"imgVUGreen"}, imgVUAmber{"imgVUAmber"}, imgVURed{"imgVURed"}, imgVUPurple{"imgVUPurple"};
+    Image imgVUGreen{"imgVUGreen"}, imgVUAmber{"imgVUAmber"}, imgVURed{"imgVURed"},
+        imgVUPurple{"imgVUPurple"};
 
     // Photo and song details
     Panel PanelPhoto{"PanelPhoto"}, PanelSongInfo{"PanelSongInfo"};
@@ -91,13 +92,14 @@ struct Form1Controls {
     Panel InfoPanel{"InfoPanel"};
     Image imgViewInfo{"imgViewInfo"}, imgEditInfo{"imgEditInfo"}, cmdInfoLeft{"cmdInfoLeft"},
         cmdInfoRight{"cmdInfoRight"}, btnGigGuide{"btnGigGuide"}, btnContact{"btnContact"},
-        cmdCurrentSongInfo{"cmdCurrentSongInfo"}, cmdPrint{"cmdPrint"}, cmdCloseInfoViewer{"cmdCloseInfoViewer"};
+        cmdCurrentSongInfo{"cmdCurrentSongInfo"}, cmdPrint{"cmdPrint"},
+        cmdCloseInfoViewer{"cmdCloseInfoViewer"};
     ComboBox CboFontName{"CboFontName"}, CboFontSize{"CboFontSize"};
 
     // Alarm
     Panel PanelAlarm{"PanelAlarm"};
-    Label lblAlarmHeading{"lblAlarmHeading"}, lblAlarmCaption{"lblAlarmCaption"}, lblAlarmTime{"lblAlarmTime"},
-        lblHour{"lblHour"}, lblMinute{"lblMinute"};
+    Label lblAlarmHeading{"lblAlarmHeading"}, lblAlarmCaption{"lblAlarmCaption"},
+        lblAlarmTime{"lblAlarmTime"}, lblHour{"lblHour"}, lblMinute{"lblMinute"};
     ListBox lstHour{"lstHour"}, lstMinute{"lstMinute"};
     CommandButton cmdSetTimeOK{"cmdSetTimeOK"}, cmdSetTimeCancel{"cmdSetTimeCancel"};
 

@@ -19,8 +19,9 @@ void hint(Control& c, const char* text) { c.setToolTipText(QString::fromUtf8(tex
 // The library panel: the column buttons over the grid's headings, the grid, the count, order
 // and filter, and the commands along the bottom.
 void layOutLibrary(Form1& f) {
-    const char* columns[] = {"Path",  "File",     "Song Title", "Artist", "Album", "Comment",     "Genre",  "Duration",
-                             "Year",  "Tempo",    "Lyricist",   "Composer", "Key", "Web Address", "E-Mail", "Info"};
+    const char* columns[] = {"Path",  "File",        "Song Title", "Artist", "Album",    "Comment",
+                             "Genre", "Duration",    "Year",       "Tempo",  "Lyricist", "Composer",
+                             "Key",   "Web Address", "E-Mail",     "Info"};
     // Wide enough for each heading's two buttons; the first five clear the last pair at the right.
     const int widths[] = {150, 140, 130, 120, 120, 110, 90, 60, 45, 60, 90, 90, 45, 120, 110, 160};
     place(f.DBGrid1, &f.PanelDatabase, 6, 24, 622, 196);
@@ -127,7 +128,8 @@ void Form1::design() {
     place(lblSampleRate, &PanelCdToMP3, 6, 30, 70, 16);
     lblSampleRate.setCaption(QStringLiteral("SampleRate"));
     place(cboSampleRate, &PanelCdToMP3, 80, 28, 80, 20);
-    for (const char* r : {"32    kHz", "44.1 kHz", "48    kHz"}) cboSampleRate.AddItem(QString::fromLatin1(r));
+    for (const char* r : {"32    kHz", "44.1 kHz", "48    kHz"})
+        cboSampleRate.AddItem(QString::fromLatin1(r));
     place(Label11, &PanelCdToMP3, 6, 54, 100, 16);
     Label11.setCaption(QStringLiteral("Track start title"));
     place(txtTrackTitle, &PanelCdToMP3, 110, 52, 110, 19);
@@ -285,7 +287,8 @@ void Form1::design() {
     // Source pictures and helper lists that are never seen.
     for (Control* hidden : std::initializer_list<Control*>{
              &imgMpeg3, &imgVUGreen, &imgVUAmber, &imgVURed, &imgVUPurple, &imgRedBall, &imgGreenBall,
-             &imgAutoUpdate, &imgCancelSearch, &Indent, &Button, &ButtonBlue, &List1, &ListGen, &Fillist, &CboFontName, &CboFontSize})
+             &imgAutoUpdate, &imgCancelSearch, &Indent, &Button, &ButtonBlue, &List1, &ListGen, &Fillist,
+             &CboFontName, &CboFontSize})
         hidden->setVisible(false);
     List1.setSorted(true);
     for (int size : {8, 9, 10, 11, 12, 14, 16, 18, 20, 22, 24, 26, 28, 36, 72})

@@ -103,9 +103,9 @@ struct Form1Menus {
 
     // The menu bar, in order (popups are not part of it).
     std::vector<MenuItem*> menuBar() const {
-        return {const_cast<MenuItem*>(&mnuFile), const_cast<MenuItem*>(&mnuView),
+        return {const_cast<MenuItem*>(&mnuFile),  const_cast<MenuItem*>(&mnuView),
                 const_cast<MenuItem*>(&mnuSetup), const_cast<MenuItem*>(&mnuConvert),
-                const_cast<MenuItem*>(&mnuCD), const_cast<MenuItem*>(&mnuHelp)};
+                const_cast<MenuItem*>(&mnuCD),    const_cast<MenuItem*>(&mnuHelp)};
     }
 };
 

@@ -46,9 +46,9 @@ public:
 
     // The splash panel comes after the dialog's controls, so that its view lies over them.
     std::vector<Control*> allControls() {
-        return {&Label1, &lblStartFrom, &lblAutoSet, &File1, &List1, &Drive1, &Dir1, &chkSubs, &lblSubs,
-                &cmdAdd, &CmdClose, &cmdOK, &cmdCancel, &PanelSplash, &lblTitle, &lblVersion, &lblTagline,
-                &SScmdOK};
+        return {&Label1,    &lblStartFrom, &lblAutoSet, &File1,      &List1,      &Drive1,
+                &Dir1,      &chkSubs,      &lblSubs,    &cmdAdd,     &CmdClose,   &cmdOK,
+                &cmdCancel, &PanelSplash,  &lblTitle,   &lblVersion, &lblTagline, &SScmdOK};
     }
 
 private:

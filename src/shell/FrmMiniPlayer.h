@@ -16,7 +16,8 @@ public:
     Image imgSLiderSong{"imgSLiderSong"}, imgButtonSong{"imgButtonSong"};
     // Volume, treble and bass share one travel, from MiniSliderTop (100) to MiniSliderBottom (0).
     Image SLiderVolume{"SLiderVolume"}, SliderTreble{"SliderTreble"}, SliderBass{"SliderBass"};
-    Image imgVUGreen{"imgVUGreen"}, imgVUAmber{"imgVUAmber"}, imgVURed{"imgVURed"}, imgVUPurple{"imgVUPurple"};
+    Image imgVUGreen{"imgVUGreen"}, imgVUAmber{"imgVUAmber"}, imgVURed{"imgVURed"},
+        imgVUPurple{"imgVUPurple"};
 };
 
 }  // namespace sonarium

@@ -4,11 +4,11 @@
 #include "controls/Components.h"
 #include "controls/CurrentDirectory.h"
 #include "controls/DriveDirectories.h"
-#include "shell/Form2.h"
 #include "shell/Form1.h"
+#include "shell/Form2.h"
 #include "shell/FrmGeneral.h"
-#include "shell/Module1.h"
 #include "shell/FrmMiniPlayer.h"
+#include "shell/Module1.h"
 
 namespace sonarium {
 

@@ -1,7 +1,7 @@
 // Closing the main window, the Quit command and the stick menu's immediate quit.
 #include "controls/Errors.h"
-#include "shell/Form2.h"
 #include "shell/Form1.h"
+#include "shell/Form2.h"
 #include "shell/FrmGeneral.h"
 #include "shell/FrmMiniPlayer.h"
 

@@ -5,8 +5,8 @@
 #include "controls/FileNames.h"
 #include "shell/AppFiles.h"
 #include "shell/Form1.h"
-#include "shell/FrmGeneral.h"
 #include "shell/Form2.h"
+#include "shell/FrmGeneral.h"
 #include "shell/FrmMiniPlayer.h"
 
 namespace sonarium {
@@ -41,7 +41,6 @@ void Form1::traceClose() { traceIsOpen_ = false; }
 
 // Every statement that fails is skipped and the next one runs.
 void Form1::Form_Load() {
-
     traceOpen();
     tryStep([&] {
         M.MiniSliderTop = 690;
@@ -67,8 +66,14 @@ void Form1::Form_Load() {
     tryStep([&] { cboSampleRate.setListIndex(1); });
     tryStep([&] { cboBitRate.setListIndex(8); });
     tryStep([&] { InitCD(); });
-    tryStep([&] { EncoderBitRate = 128000; C.encoder.setEncoderBitRate(128000); });
-    tryStep([&] { EncoderSampleRate = 44100; C.encoder.setEncoderSampleRate(44100); });
+    tryStep([&] {
+        EncoderBitRate = 128000;
+        C.encoder.setEncoderBitRate(128000);
+    });
+    tryStep([&] {
+        EncoderSampleRate = 44100;
+        C.encoder.setEncoderSampleRate(44100);
+    });
     tryStep([&] { M.Volume = 35; });
     tryStep([&] { M.Bass = 50; });
     tryStep([&] { M.Treble = 50; });
@@ -89,7 +94,9 @@ void Form1::Form_Load() {
     });
     tryStep([&] { CboFontName.setListIndex(0); });
     tryStep([&] { CboFontSize.setListIndex(0); });
-    tryStep([&] { if (form2.Visible()) form2.Unload(); });
+    tryStep([&] {
+        if (form2.Visible()) form2.Unload();
+    });
     tryStep([&] { mnuBlade.setEnabled(fileExists(joinPath(M.AppDir, QStringLiteral("Bladeenc")))); });
     tryStep([&] {
         // Without a Config.dat the Blade entry stays chosen even when disabled: first starts
@@ -105,7 +112,9 @@ void Form1::Form_Load() {
     tryStep([&] { LoadConfig(); });
     tryStep([&] { LoadSkin(); });
     tryStep([&] { LoadSkinMini(); });
-    tryStep([&] { if (PhotoWidth == 0) PhotoWidth = FullPhotoWidth; });
+    tryStep([&] {
+        if (PhotoWidth == 0) PhotoWidth = FullPhotoWidth;
+    });
     tryStep([&] {
         if (M.VUMeterOn == 1) {
             imgSLiderSong.setVisible(false);

@@ -51,7 +51,8 @@ void Form1::Form_KeyDown(int& keyCode, int shift) {
 void Form1::mnuContents_Click() {
     tryStep([&] {
         if (!C.desktop.openHelp())
-            throw RuntimeError(RuntimeError::FileNotFound, QStringLiteral("The help page could not be opened"));
+            throw RuntimeError(RuntimeError::FileNotFound,
+                               QStringLiteral("The help page could not be opened"));
     });
 }
 

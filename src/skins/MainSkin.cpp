@@ -36,14 +36,16 @@ void putPicture(Control& c, const Picture& p) {
     else if (auto* panel = dynamic_cast<Panel*>(&c))
         panel->setPicture(p);
     else
-        throw RuntimeError(RuntimeError::InvalidPropertyValue, c.Name() + QStringLiteral(" shows no picture"));
+        throw RuntimeError(RuntimeError::InvalidPropertyValue,
+                           c.Name() + QStringLiteral(" shows no picture"));
 }
 
 void cutOnto(const QMultiHash<QString, Control*>& controls, const Picture& sheet, const Cut& cut) {
     const Picture piece = sheet.cut(cut.rect.x, cut.rect.y, cut.rect.w, cut.rect.h);
     const QString name = QLatin1String(cut.control.data(), qsizetype(cut.control.size()));
     const auto targets = controls.values(name);
-    if (targets.isEmpty()) throw RuntimeError(RuntimeError::InvalidPropertyValue, name + QStringLiteral(" not found"));
+    if (targets.isEmpty())
+        throw RuntimeError(RuntimeError::InvalidPropertyValue, name + QStringLiteral(" not found"));
     for (Control* c : targets) putPicture(*c, piece);
 }
 
@@ -51,7 +53,8 @@ void cutOnto(const QMultiHash<QString, Control*>& controls, const Picture& sheet
 // is refused as the colour function refuses it.
 int component(const QString& field) {
     const double v = roundHalfEven(leadingNumber(field));
-    if (v < 0) throw RuntimeError(RuntimeError::InvalidCall, QStringLiteral("Invalid procedure call or argument"));
+    if (v < 0)
+        throw RuntimeError(RuntimeError::InvalidCall, QStringLiteral("Invalid procedure call or argument"));
     return v > 255 ? 255 : int(v);
 }
 

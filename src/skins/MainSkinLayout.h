@@ -106,6 +106,7 @@ inline constexpr std::array<Cut, 56> ButtonCuts{{
 }};
 
 // ImageListB, from index 1: the pictures of controls whose look changes while the program runs.
+// clang-format off
 inline constexpr std::array<Rect, 24> ImageListCuts{{
     {1, 71, 42, 20},     // 1  BtnPlay at rest
     {44, 71, 42, 20},    // 2  BtnPlay pressed
@@ -132,12 +133,14 @@ inline constexpr std::array<Rect, 24> ImageListCuts{{
     {266, 92, 49, 11},
     {87, 92, 42, 20},    // 24 BtnPlay while a song plays
 }};
+// clang-format on
 
 // The image list's pictures that the buttons also take at once, at load.
 struct RestPicture {
     std::string_view control;
     int index;
 };
-inline constexpr std::array<RestPicture, 4> RestPictures{{{"BtnPlay", 1}, {"BtnStop", 3}, {"BtnFade", 5}, {"BtnPause", 7}}};
+inline constexpr std::array<RestPicture, 4> RestPictures{
+    {{"BtnPlay", 1}, {"BtnStop", 3}, {"BtnFade", 5}, {"BtnPause", 7}}};
 
 }  // namespace sonarium::mainskin

@@ -63,7 +63,8 @@ void FormBinding::refresh() {
                                       : form_.windowState() == WindowState::Maximized ? Qt::WindowMaximized
                                                                                       : Qt::WindowNoState;
         if ((window_.windowState() & (Qt::WindowMinimized | Qt::WindowMaximized)) != want)
-            window_.setWindowState((window_.windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized)) | want);
+            window_.setWindowState((window_.windowState() & ~(Qt::WindowMinimized | Qt::WindowMaximized)) |
+                                   want);
     }
     if (form_.refreshes() != refreshes_) {
         refreshes_ = form_.refreshes();
@@ -111,8 +112,7 @@ void FormBinding::focusWindowChanged(QWindow* w) {
 
 bool FormBinding::eventFilter(QObject* watched, QEvent* event) {
     switch (event->type()) {
-    case QEvent::KeyPress:
-        return keyPressed(watched, event);
+    case QEvent::KeyPress: return keyPressed(watched, event);
     case QEvent::Move:
         // The user moved the window: the model's Left and Top say where it is now.
         if (watched == &window_ && !syncing_ && window_.isVisible()) {
@@ -129,8 +129,7 @@ bool FormBinding::eventFilter(QObject* watched, QEvent* event) {
             feed(errors_, [&] { form_.setWindowState(state); });
         }
         return false;
-    default:
-        return false;
+    default: return false;
     }
 }
 

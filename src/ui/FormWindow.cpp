@@ -15,8 +15,8 @@ namespace {
 constexpr QSize FallbackSize{320, 200};
 }  // namespace
 
-FormWindow::FormWindow(Form& form, const std::vector<Control*>& controls, ErrorReporter& errors, QWidget* parent,
-                       Qt::WindowFlags flags)
+FormWindow::FormWindow(Form& form, const std::vector<Control*>& controls, ErrorReporter& errors,
+                       QWidget* parent, Qt::WindowFlags flags)
     : QWidget(parent, flags), form_(form), views_(*this, errors) {
     views_.build(controls);
     binding_ = std::make_unique<FormBinding>(form, *this, errors, form.Caption());

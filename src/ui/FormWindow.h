@@ -16,8 +16,8 @@ class FormBinding;
 class FormWindow : public QWidget {
 public:
     // Failures of the calls that the window and its views feed to the models go to `errors`.
-    FormWindow(Form& form, const std::vector<Control*>& controls, ErrorReporter& errors, QWidget* parent = nullptr,
-               Qt::WindowFlags flags = Qt::Window);
+    FormWindow(Form& form, const std::vector<Control*>& controls, ErrorReporter& errors,
+               QWidget* parent = nullptr, Qt::WindowFlags flags = Qt::Window);
     ~FormWindow() override;
 
     Form& form() const { return form_; }

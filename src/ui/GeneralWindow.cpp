@@ -30,7 +30,9 @@ protected:
 }  // namespace
 
 GeneralWindow::GeneralWindow(FrmGeneral& form, ErrorReporter& errors, QWidget* parent)
-    : FormWindow(form, form.allControls(), errors, parent, Qt::Dialog), general_(form), edge_(new CardEdge(this)) {
+    : FormWindow(form, form.allControls(), errors, parent, Qt::Dialog),
+      general_(form),
+      edge_(new CardEdge(this)) {
     edge_->setAttribute(Qt::WA_TransparentForMouseEvents);
     edge_->setGeometry(rect());
     edge_->raise();
@@ -39,7 +41,8 @@ GeneralWindow::GeneralWindow(FrmGeneral& form, ErrorReporter& errors, QWidget* p
 }
 
 void GeneralWindow::beforeShow() {
-    const Qt::WindowFlags flags = general_.PanelSplash.Visible() ? Qt::Dialog | Qt::FramelessWindowHint : Qt::Dialog;
+    const Qt::WindowFlags flags =
+        general_.PanelSplash.Visible() ? Qt::Dialog | Qt::FramelessWindowHint : Qt::Dialog;
     if (windowFlags() != flags) setWindowFlags(flags);
     edge_->setVisible(flags & Qt::FramelessWindowHint);
     edge_->raise();
@@ -56,4 +59,3 @@ void GeneralWindow::resizeEvent(QResizeEvent* e) {
 }
 
 }  // namespace sonarium
-

@@ -1,15 +1,15 @@
 #include "ui/QtDesktop.h"
 
 #include <QCoreApplication>
-#include <QDir>
-#include <QFile>
-#include <QSaveFile>
-#include <QStandardPaths>
 #include <QCursor>
 #include <QDesktopServices>
+#include <QDir>
+#include <QFile>
 #include <QFontDatabase>
 #include <QGuiApplication>
+#include <QSaveFile>
 #include <QScreen>
+#include <QStandardPaths>
 #include <QThread>
 #include <QUrl>
 
@@ -26,7 +26,8 @@ void exitWhenLoopRuns(int exitCode) {
     if (QThread::currentThread()->loopLevel() > 0)
         QCoreApplication::exit(exitCode);
     else
-        QMetaObject::invokeMethod(qApp, [exitCode] { exitWhenLoopRuns(exitCode); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            qApp, [exitCode] { exitWhenLoopRuns(exitCode); }, Qt::QueuedConnection);
 }
 
 }  // namespace
@@ -59,7 +60,8 @@ bool QtDesktop::openHelp() {
 }
 
 void QtDesktop::quit(int exitCode) {
-    QMetaObject::invokeMethod(qApp, [exitCode] { exitWhenLoopRuns(exitCode); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        qApp, [exitCode] { exitWhenLoopRuns(exitCode); }, Qt::QueuedConnection);
 }
 
 }  // namespace sonarium

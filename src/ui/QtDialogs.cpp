@@ -1,7 +1,5 @@
 #include "ui/QtDialogs.h"
 
-#include <QPrintDialog>
-
 #include <QColorDialog>
 #include <QCursor>
 #include <QFileDialog>
@@ -9,6 +7,7 @@
 #include <QInputDialog>
 #include <QMenu>
 #include <QMessageBox>
+#include <QPrintDialog>
 #include <map>
 
 #include "controls/Menu.h"

@@ -18,7 +18,9 @@ struct QtEventLoop::TimerState {
     bool stopped = false;  // stopped or done; its QTimer goes once no handler of it is open
 };
 
-QtEventLoop::QtEventLoop(ErrorReporter& errors, QObject* parent) : QObject(parent), errors_(errors) { clock_.start(); }
+QtEventLoop::QtEventLoop(ErrorReporter& errors, QObject* parent) : QObject(parent), errors_(errors) {
+    clock_.start();
+}
 
 // Qt's dispatcher is not exception-safe, so a failure must end at the top of its event:
 // it is reported, and the program goes on.
@@ -33,12 +35,13 @@ QDateTime QtEventLoop::wallClock() const { return QDateTime::currentDateTime(); 
 
 void QtEventLoop::post(Task fn) {
     // A queued call on this object runs on the thread it lives on, in the order posted.
-    QMetaObject::invokeMethod(this, [this, fn = std::move(fn)] { runEvent(fn); }, Qt::QueuedConnection);
+    QMetaObject::invokeMethod(
+        this, [this, fn = std::move(fn)] { runEvent(fn); }, Qt::QueuedConnection);
 }
 
 EventLoop::TimerId QtEventLoop::startTimer(int intervalMs, Task fn, bool singleShot) {
-    auto t = std::make_shared<TimerState>(
-        TimerState{++lastTimer_, new QTimer(this), std::move(fn), singleShot});
+    auto t =
+        std::make_shared<TimerState>(TimerState{++lastTimer_, new QTimer(this), std::move(fn), singleShot});
     t->timer->setTimerType(Qt::PreciseTimer);
     t->timer->setSingleShot(singleShot);
     t->timer->setInterval(std::max(intervalMs, 0));

@@ -1,12 +1,13 @@
 #include "ui/TerminationSignals.h"
 
-#include <QSocketNotifier>
 #include <semaphore.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
+#include <QSocketNotifier>
 #include <atomic>
 #include <cerrno>
 #include <cstdio>
-#include <sys/socket.h>
-#include <unistd.h>
 
 namespace sonarium {
 

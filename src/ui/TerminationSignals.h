@@ -29,7 +29,8 @@ private:
     std::function<void()> onSignal_;
     int fds_[2] = {-1, -1};
     QSocketNotifier* notifier_ = nullptr;
-    struct sigaction oldTerm_ {}, oldInt_ {}, oldHup_ {};
+    struct sigaction oldTerm_ {
+    }, oldInt_{}, oldHup_{};
     std::thread watchdog_;
 };
 

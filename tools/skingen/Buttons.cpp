@@ -12,23 +12,19 @@ namespace {
 
 void glyphShape(QPainter& p, Glyph g, QPoint o, const QColor& ink) {
     switch (g) {
-        case Glyph::Play:
-            triangle(p, o + QPoint(-2, 0), 6, Pointing::Right, ink);
-            break;
-        case Glyph::Pause:
-            p.fillRect(QRect(o.x() - 4, o.y() - 5, 3, 11), ink);
-            p.fillRect(QRect(o.x() + 2, o.y() - 5, 3, 11), ink);
-            break;
-        case Glyph::Stop:
-            p.fillRect(QRect(o.x() - 4, o.y() - 4, 9, 9), ink);
-            break;
-        case Glyph::Fade:
-            // A wedge falling to the right: the sound dying away.
-            for (int k = 0; k < 13; ++k) {
-                const int h = 11 - k * 10 / 12;
-                p.fillRect(QRect(o.x() - 6 + k, o.y() + 5 - h + 1, 1, h), ink);
-            }
-            break;
+    case Glyph::Play: triangle(p, o + QPoint(-2, 0), 6, Pointing::Right, ink); break;
+    case Glyph::Pause:
+        p.fillRect(QRect(o.x() - 4, o.y() - 5, 3, 11), ink);
+        p.fillRect(QRect(o.x() + 2, o.y() - 5, 3, 11), ink);
+        break;
+    case Glyph::Stop: p.fillRect(QRect(o.x() - 4, o.y() - 4, 9, 9), ink); break;
+    case Glyph::Fade:
+        // A wedge falling to the right: the sound dying away.
+        for (int k = 0; k < 13; ++k) {
+            const int h = 11 - k * 10 / 12;
+            p.fillRect(QRect(o.x() - 6 + k, o.y() + 5 - h + 1, 1, h), ink);
+        }
+        break;
     }
 }
 
@@ -166,9 +162,7 @@ PiecePainter buttonPainter(std::string_view control) {
     return {};
 }
 
-bool isImageListFiller(int index) {
-    return (index >= 11 && index <= 14) || (index >= 19 && index <= 23);
-}
+bool isImageListFiller(int index) { return (index >= 11 && index <= 14) || (index >= 19 && index <= 23); }
 
 PiecePainter imageListPainter(int index) {
     auto transport = [](Glyph g, bool pressed, QColor Theme::*light) -> PiecePainter {
@@ -177,42 +171,26 @@ PiecePainter imageListPainter(int index) {
         };
     };
     switch (index) {
-        case 1:
-            return transport(Glyph::Play, false, nullptr);
-        case 2:
-            return transport(Glyph::Play, true, &Theme::lit);
-        case 3:
-            return transport(Glyph::Stop, false, nullptr);
-        case 4:
-            return transport(Glyph::Stop, true, &Theme::lit);
-        case 5:
-            return transport(Glyph::Fade, false, nullptr);
-        case 6:
-            return transport(Glyph::Fade, true, &Theme::lit);
-        case 7:
-            return transport(Glyph::Pause, false, nullptr);
-        case 8:
-            return transport(Glyph::Pause, true, &Theme::lit);
-        case 9:
-            return transport(Glyph::Pause, false, &Theme::amber);
-        case 10:
-            return transport(Glyph::Pause, true, &Theme::amber);
-        case 15:
-            return themed(
-                [](QPainter& p, const QRect& r, const Theme& t) { paintSizeButton(p, r, t, true); });
-        case 16:
-            return themed(
-                [](QPainter& p, const QRect& r, const Theme& t) { paintSizeButton(p, r, t, false); });
-        case 17:
-            return themed(
-                [](QPainter& p, const QRect& r, const Theme& t) { paintMonoStereo(p, r, t, false); });
-        case 18:
-            return themed(
-                [](QPainter& p, const QRect& r, const Theme& t) { paintMonoStereo(p, r, t, true); });
-        case 24:
-            return transport(Glyph::Play, false, &Theme::green);
-        default:
-            return {};
+    case 1: return transport(Glyph::Play, false, nullptr);
+    case 2: return transport(Glyph::Play, true, &Theme::lit);
+    case 3: return transport(Glyph::Stop, false, nullptr);
+    case 4: return transport(Glyph::Stop, true, &Theme::lit);
+    case 5: return transport(Glyph::Fade, false, nullptr);
+    case 6: return transport(Glyph::Fade, true, &Theme::lit);
+    case 7: return transport(Glyph::Pause, false, nullptr);
+    case 8: return transport(Glyph::Pause, true, &Theme::lit);
+    case 9: return transport(Glyph::Pause, false, &Theme::amber);
+    case 10: return transport(Glyph::Pause, true, &Theme::amber);
+    case 15:
+        return themed([](QPainter& p, const QRect& r, const Theme& t) { paintSizeButton(p, r, t, true); });
+    case 16:
+        return themed([](QPainter& p, const QRect& r, const Theme& t) { paintSizeButton(p, r, t, false); });
+    case 17:
+        return themed([](QPainter& p, const QRect& r, const Theme& t) { paintMonoStereo(p, r, t, false); });
+    case 18:
+        return themed([](QPainter& p, const QRect& r, const Theme& t) { paintMonoStereo(p, r, t, true); });
+    case 24: return transport(Glyph::Play, false, &Theme::green);
+    default: return {};
     }
 }
 

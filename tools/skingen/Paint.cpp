@@ -71,9 +71,7 @@ void bevel(QPainter& p, const QRect& r, const QColor& light, const QColor& dark)
     p.fillRect(QRect(r.right(), r.top(), 1, r.height()), dark);
 }
 
-void raisedEdge(QPainter& p, const QRect& r, const Theme& t) {
-    bevel(p, r, t.bevelLight, t.bevelDark);
-}
+void raisedEdge(QPainter& p, const QRect& r, const Theme& t) { bevel(p, r, t.bevelLight, t.bevelDark); }
 
 void well(QPainter& p, const QRect& inner, const Theme& t, bool deep) {
     QLinearGradient glass(inner.topLeft(), inner.bottomLeft());
@@ -156,18 +154,10 @@ void triangle(QPainter& p, QPoint c, int depth, Pointing dir, const QColor& ink)
     for (int k = 0; k < depth; ++k) {
         const int half = depth - 1 - k;  // k counts from the base towards the point
         switch (dir) {
-            case Pointing::Up:
-                p.fillRect(QRect(c.x() - half, c.y() - k, 2 * half + 1, 1), ink);
-                break;
-            case Pointing::Down:
-                p.fillRect(QRect(c.x() - half, c.y() + k, 2 * half + 1, 1), ink);
-                break;
-            case Pointing::Left:
-                p.fillRect(QRect(c.x() - k, c.y() - half, 1, 2 * half + 1), ink);
-                break;
-            case Pointing::Right:
-                p.fillRect(QRect(c.x() + k, c.y() - half, 1, 2 * half + 1), ink);
-                break;
+        case Pointing::Up: p.fillRect(QRect(c.x() - half, c.y() - k, 2 * half + 1, 1), ink); break;
+        case Pointing::Down: p.fillRect(QRect(c.x() - half, c.y() + k, 2 * half + 1, 1), ink); break;
+        case Pointing::Left: p.fillRect(QRect(c.x() - k, c.y() - half, 1, 2 * half + 1), ink); break;
+        case Pointing::Right: p.fillRect(QRect(c.x() + k, c.y() - half, 1, 2 * half + 1), ink); break;
         }
     }
 }

@@ -12,9 +12,7 @@
 
 namespace sonarium::skingen {
 
-inline QRect toQRect(const mainskin::Rect& r) {
-    return QRect(r.x, r.y, r.w, r.h);
-}
+inline QRect toQRect(const mainskin::Rect& r) { return QRect(r.x, r.y, r.w, r.h); }
 
 // `a` moved `percentB` per cent of the way to `b`.
 QColor mixColour(const QColor& a, const QColor& b, int percentB);

@@ -12,9 +12,7 @@ namespace {
 
 using namespace places;
 
-QRect q(const mainskin::Rect& r) {
-    return toQRect(r);
-}
+QRect q(const mainskin::Rect& r) { return toQRect(r); }
 
 void metalPanel(QPainter& p, const QRect& r, const Theme& t, const char* name) {
     paintMetal(p, r, t, seedOf(name));

@@ -14,9 +14,7 @@ using namespace mainskin;
 
 namespace {
 
-bool sameRect(const Rect& a, const Rect& b) {
-    return a.x == b.x && a.y == b.y && a.w == b.w && a.h == b.h;
-}
+bool sameRect(const Rect& a, const Rect& b) { return a.x == b.x && a.y == b.y && a.w == b.w && a.h == b.h; }
 bool overlap(const Rect& a, const Rect& b) {
     return a.x < b.right() && b.x < a.right() && a.y < b.bottom() && b.y < a.bottom();
 }
@@ -60,9 +58,7 @@ private:
     throw std::runtime_error("no drawing for " + std::string(what));
 }
 
-QImage crop(const QImage& from, const Rect& r) {
-    return from.copy(toQRect(r));
-}
+QImage crop(const QImage& from, const Rect& r) { return from.copy(toQRect(r)); }
 
 }  // namespace
 
@@ -73,9 +69,7 @@ QImage PieceContext::ground(std::string_view panel, const Rect& place) const {
     missing(panel);
 }
 
-QImage PieceContext::databaseGround(const Rect& place) const {
-    return crop(database, place);
-}
+QImage PieceContext::databaseGround(const Rect& place) const { return crop(database, place); }
 
 QImage drawPanelsSheet(const Theme& t) {
     QImage sheet(PanelsMinWidth, PanelsMinHeight, QImage::Format_RGB32);

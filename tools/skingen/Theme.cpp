@@ -101,9 +101,7 @@ Theme daylightTheme() {
 
 }  // namespace
 
-QStringList themeNames() {
-    return {defaultTheme().name, daylightTheme().name};
-}
+QStringList themeNames() { return {defaultTheme().name, daylightTheme().name}; }
 
 bool themeByName(const QString& name, Theme& out) {
     for (const Theme& t : {defaultTheme(), daylightTheme()}) {

@@ -11,13 +11,9 @@ namespace {
 
 using namespace places;
 
-QRect q(const mainskin::Rect& r) {
-    return toQRect(r);
-}
+QRect q(const mainskin::Rect& r) { return toQRect(r); }
 // The smallest rectangle holding both.
-QRect span(const mainskin::Rect& a, const mainskin::Rect& b) {
-    return q(a).united(q(b));
-}
+QRect span(const mainskin::Rect& a, const mainskin::Rect& b) { return q(a).united(q(b)); }
 
 // A legend centred under `over`, its top at `top`.
 void legendUnder(QPainter& p, const QRect& over, int top, int width, const QString& text, const Theme& t) {

@@ -41,9 +41,7 @@ inline constexpr Rect encoder{440, 110, 159, 16}, quitEncoder{440, 128, 110, 15}
 
 // PanelVU: lamp i of 19.
 inline constexpr int vuLamps = 19;
-constexpr Rect vuLamp(int i) {
-    return {5 + i * 10, 3, 8, 8};
-}
+constexpr Rect vuLamp(int i) { return {5 + i * 10, 3, 8, 8}; }
 // The meter lights its first ten lamps green, the next five amber and the rest red.
 inline constexpr int vuFirstAmber = 10, vuFirstRed = 15;
 
@@ -59,9 +57,7 @@ inline constexpr int knobTopAt100[3] = {18, 100, 182};
 // PicTitleBoxes
 inline constexpr Rect dirList{6, 6, 170, 251}, songList{358, 6, 167, 251};
 inline constexpr int titleCount = 12;
-constexpr Rect title(int i) {
-    return {182, 6 + i * 21, 170, 19};
-}
+constexpr Rect title(int i) { return {182, 6 + i * 21, 170, 19}; }
 
 // PicRightPanel
 inline constexpr Rect cmdUp{7, 6, 33, 37}, cmdDown{7, 46, 33, 37}, imgDataBase{6, 92, 36, 37},
@@ -73,12 +69,8 @@ inline constexpr Rect encodeProgress{6, 96, 209, 10};
 // PicDatabase: the heading buttons (the last pair keeps its place at the right), the grid,
 // the count, order and filter line and the commands along the bottom.
 inline constexpr int columnPairs = 15;
-constexpr Rect columnButton(int i) {
-    return {i < 14 ? 6 + i * 40 : 596, 4, 17, 17};
-}
-constexpr Rect columnMenu(int i) {
-    return {columnButton(i).x + 21, 6, 11, 12};
-}
+constexpr Rect columnButton(int i) { return {i < 14 ? 6 + i * 40 : 596, 4, 17, 17}; }
+constexpr Rect columnMenu(int i) { return {columnButton(i).x + 21, 6, 11, 12}; }
 inline constexpr Rect grid{6, 24, 622, 196};
 inline constexpr Rect records{6, 224, 64, 14}, order{74, 224, 130, 14}, filter{208, 224, 420, 14};
 inline constexpr int commandY = 242, commandH = 17, commandGap = 4, commandCount = 8;

@@ -23,9 +23,7 @@ using namespace sonarium::skingen;
 
 namespace {
 
-void say(const QString& s) {
-    std::fprintf(stderr, "%s\n", qPrintable(s));
-}
+void say(const QString& s) { std::fprintf(stderr, "%s\n", qPrintable(s)); }
 
 bool saveBitmap(const QImage& image, const QString& path, QString& error) {
     QSaveFile file(path);

@@ -19,13 +19,9 @@ void silenceAlsa() {
 
 }  // namespace
 
-AlsaSink::AlsaSink() {
-    silenceAlsa();
-}
+AlsaSink::AlsaSink() { silenceAlsa(); }
 
-AlsaSink::~AlsaSink() {
-    close();
-}
+AlsaSink::~AlsaSink() { close(); }
 
 bool AlsaSink::deviceOpens() {
     silenceAlsa();

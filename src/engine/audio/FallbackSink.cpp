@@ -2,9 +2,7 @@
 
 namespace sonarium {
 
-FallbackSink::~FallbackSink() {
-    close();
-}
+FallbackSink::~FallbackSink() { close(); }
 
 bool FallbackSink::open(const AudioFormat& format) {
     if (lost_) {

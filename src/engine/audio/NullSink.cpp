@@ -39,8 +39,6 @@ void NullSink::reset() {
     framesSinceBase_ = 0;
 }
 
-void NullSink::close() {
-    open_ = false;
-}
+void NullSink::close() { open_ = false; }
 
 }  // namespace sonarium

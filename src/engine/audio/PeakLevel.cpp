@@ -16,8 +16,6 @@ void PeakLevel::offer(float absSample) {
     }
 }
 
-std::int32_t PeakLevel::takeReading() {
-    return peak_.exchange(0, std::memory_order_relaxed);
-}
+std::int32_t PeakLevel::takeReading() { return peak_.exchange(0, std::memory_order_relaxed); }
 
 }  // namespace sonarium

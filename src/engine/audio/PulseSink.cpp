@@ -6,9 +6,7 @@
 
 namespace sonarium {
 
-PulseSink::~PulseSink() {
-    close();
-}
+PulseSink::~PulseSink() { close(); }
 
 bool PulseSink::open(const AudioFormat& format) {
     if (stream_ && format == format_) return true;

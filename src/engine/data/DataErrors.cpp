@@ -9,17 +9,13 @@ const char* const kFieldTooSmallText =
     "data.";
 
 namespace {
-RuntimeError error(int number, const QString& text) {
-    return RuntimeError(number, text);
-}
+RuntimeError error(int number, const QString& text) { return RuntimeError(number, text); }
 }  // namespace
 
 RuntimeError updateWithoutEdit() {
     return error(3020, QStringLiteral("Update or CancelUpdate without AddNew or Edit."));
 }
-RuntimeError noCurrentRecord() {
-    return error(3021, QStringLiteral("No current record."));
-}
+RuntimeError noCurrentRecord() { return error(3021, QStringLiteral("No current record.")); }
 RuntimeError duplicateKey() {
     return error(3022, QStringLiteral("The changes you requested to the table were not successful because "
                                       "they would create duplicate values in the index, primary key, or "
@@ -27,18 +23,10 @@ RuntimeError duplicateKey() {
                                       "duplicate data, remove the index, or redefine the index to permit "
                                       "duplicate entries and try again."));
 }
-RuntimeError nullKey() {
-    return error(3058, QString::fromLatin1(kNullKeyText));
-}
-RuntimeError fieldTooSmall() {
-    return error(3163, QString::fromLatin1(kFieldTooSmallText));
-}
-RuntimeError recordDeleted() {
-    return error(3167, QStringLiteral("Record is deleted."));
-}
-RuntimeError itemNotFound() {
-    return error(3265, QStringLiteral("Item not found in this collection."));
-}
+RuntimeError nullKey() { return error(3058, QString::fromLatin1(kNullKeyText)); }
+RuntimeError fieldTooSmall() { return error(3163, QString::fromLatin1(kFieldTooSmallText)); }
+RuntimeError recordDeleted() { return error(3167, QStringLiteral("Record is deleted.")); }
+RuntimeError itemNotFound() { return error(3265, QStringLiteral("Item not found in this collection.")); }
 RuntimeError fileNotFound(const QString& file) {
     return error(3024, QStringLiteral("Could not find file '%1'.").arg(file));
 }
@@ -64,18 +52,12 @@ RuntimeError readOnly() {
 RuntimeError alreadyExists(const QString& file) {
     return error(3204, QStringLiteral("Database '%1' already exists.").arg(file));
 }
-RuntimeError selectNotExecutable() {
-    return error(3065, QStringLiteral("Cannot execute a select query."));
-}
-RuntimeError closed() {
-    return error(3420, QStringLiteral("Object invalid or no longer set."));
-}
+RuntimeError selectNotExecutable() { return error(3065, QStringLiteral("Cannot execute a select query.")); }
+RuntimeError closed() { return error(3420, QStringLiteral("Object invalid or no longer set.")); }
 RuntimeError locked() {
     return error(3260, QStringLiteral("Couldn't update; the database is locked by another program."));
 }
-RuntimeError diskFull() {
-    return error(RuntimeError::DiskFull, QStringLiteral("Disk full."));
-}
+RuntimeError diskFull() { return error(RuntimeError::DiskFull, QStringLiteral("Disk full.")); }
 RuntimeError syntax(const QString& statement) {
     return error(3075,
                  QStringLiteral("Syntax error (missing operator) in query expression '%1'.").arg(statement));
@@ -83,9 +65,7 @@ RuntimeError syntax(const QString& statement) {
 RuntimeError syntaxInString(const QString& statement) {
     return error(3075, QStringLiteral("Syntax error in string in query expression '%1'.").arg(statement));
 }
-RuntimeError syntaxInFrom() {
-    return error(3131, QStringLiteral("Syntax error in FROM clause."));
-}
+RuntimeError syntaxInFrom() { return error(3131, QStringLiteral("Syntax error in FROM clause.")); }
 RuntimeError syntaxInFieldDefinition() {
     return error(3292, QStringLiteral("Syntax error in field definition."));
 }
@@ -107,11 +87,7 @@ RuntimeError unknownField(const QString& name) {
 RuntimeError undefinedFunction(const QString& name) {
     return error(3085, QStringLiteral("Undefined function '%1' in expression.").arg(name));
 }
-RuntimeError invalidPattern() {
-    return error(93, QString::fromLatin1(kInvalidPatternText));
-}
-RuntimeError engine(const QString& text) {
-    return error(RuntimeError::ComponentFailed, text);
-}
+RuntimeError invalidPattern() { return error(93, QString::fromLatin1(kInvalidPatternText)); }
+RuntimeError engine(const QString& text) { return error(RuntimeError::ComponentFailed, text); }
 
 }  // namespace sonarium::dataerrors

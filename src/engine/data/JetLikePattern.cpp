@@ -86,20 +86,16 @@ std::optional<JetLikePattern> JetLikePattern::compile(std::string_view p, char32
 
 bool JetLikePattern::single(const Element& e, char32_t c) const {
     switch (e.kind) {
-        case Element::Char:
-            return e.c == fold(c);
-        case Element::AnyOne:
-            return true;
-        case Element::Digit:
-            return c >= '0' && c <= '9';
-        case Element::List: {
-            const char32_t f = fold(c);
-            bool in = false;
-            for (const auto& [lo, hi] : lists_[e.list]) in = in || (f >= lo && f <= hi);
-            return in != e.negated;
-        }
-        case Element::AnyRun:
-            break;
+    case Element::Char: return e.c == fold(c);
+    case Element::AnyOne: return true;
+    case Element::Digit: return c >= '0' && c <= '9';
+    case Element::List: {
+        const char32_t f = fold(c);
+        bool in = false;
+        for (const auto& [lo, hi] : lists_[e.list]) in = in || (f >= lo && f <= hi);
+        return in != e.negated;
+    }
+    case Element::AnyRun: break;
     }
     return false;
 }

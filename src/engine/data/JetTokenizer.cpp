@@ -6,15 +6,9 @@ namespace sonarium {
 
 namespace {
 
-bool isWordStart(QChar c) {
-    return c.isLetter() || c == u'_';
-}
-bool isWordPart(QChar c) {
-    return c.isLetterOrNumber() || c == u'_';
-}
-bool isDigit(QChar c) {
-    return c >= u'0' && c <= u'9';
-}
+bool isWordStart(QChar c) { return c.isLetter() || c == u'_'; }
+bool isWordPart(QChar c) { return c.isLetterOrNumber() || c == u'_'; }
+bool isDigit(QChar c) { return c >= u'0' && c <= u'9'; }
 
 // The literal that opens at `i` with `quote`; `i` ends after its closing quote.
 QString readLiteral(const QString& s, qsizetype& i, QChar quote) {

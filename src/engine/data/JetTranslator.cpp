@@ -129,16 +129,11 @@ private:
 
     QString rebuild(const JetToken& t, bool call) const {
         switch (t.kind) {
-            case JetToken::Name:
-                return sqlIdentifier(t.text);
-            case JetToken::Text:
-                return sqlText(t.text);
-            case JetToken::Number:
-                return t.text;
-            case JetToken::Symbol:
-                return t.isSymbol("&") ? QStringLiteral("||") : t.text;
-            case JetToken::Word:
-                break;
+        case JetToken::Name: return sqlIdentifier(t.text);
+        case JetToken::Text: return sqlText(t.text);
+        case JetToken::Number: return t.text;
+        case JetToken::Symbol: return t.isSymbol("&") ? QStringLiteral("||") : t.text;
+        case JetToken::Word: break;
         }
         const QString upper = t.text.toUpper();
         if (call && functions().contains(upper)) return functions().value(upper);

@@ -43,9 +43,7 @@ void likeFunction(sqlite3_context* ctx, int argc, sqlite3_value** argv) {
     sqlite3_result_int(ctx, pattern->matches({value, size_t(sqlite3_value_bytes(argv[1]))}) ? 1 : 0);
 }
 
-QByteArray encoded(const QString& path) {
-    return QFile::encodeName(path);
-}
+QByteArray encoded(const QString& path) { return QFile::encodeName(path); }
 
 // The width in a declared type such as "TEXT(80)"; 0 when it has none.
 int widthOf(const QString& type) {
@@ -54,9 +52,7 @@ int widthOf(const QString& type) {
     return m.hasMatch() ? m.captured(1).toInt() : 0;
 }
 
-QString after(const QString& message, const QString& prefix) {
-    return message.mid(prefix.size());
-}
+QString after(const QString& message, const QString& prefix) { return message.mid(prefix.size()); }
 
 }  // namespace
 
@@ -79,9 +75,7 @@ bool SqliteConnection::opened(const QString& file) const {
     return path == path_ && identity(path) == identity_;
 }
 
-SqliteConnection::~SqliteConnection() {
-    close();
-}
+SqliteConnection::~SqliteConnection() { close(); }
 
 std::shared_ptr<SqliteConnection> SqliteConnection::connect(const QByteArray& name, int flags,
                                                             const QString& path, const QString& shownName,
@@ -195,9 +189,7 @@ SqliteStatement& SqliteConnection::cached(const QString& sql) {
     return *it->second;
 }
 
-void SqliteConnection::execute(const QString& sql, const QString& context) {
-    prepare(sql, context).run();
-}
+void SqliteConnection::execute(const QString& sql, const QString& context) { prepare(sql, context).run(); }
 
 std::vector<ColumnInfo> SqliteConnection::columns(const QString& table) {
     std::vector<ColumnInfo> result;
@@ -207,42 +199,29 @@ std::vector<ColumnInfo> SqliteConnection::columns(const QString& table) {
     return result;
 }
 
-std::int64_t SqliteConnection::lastInsertRowid() const {
-    return sqlite3_last_insert_rowid(handle());
-}
-int SqliteConnection::changes() const {
-    return sqlite3_changes(handle());
-}
-std::int64_t SqliteConnection::totalChanges() const {
-    return sqlite3_total_changes64(handle());
-}
+std::int64_t SqliteConnection::lastInsertRowid() const { return sqlite3_last_insert_rowid(handle()); }
+int SqliteConnection::changes() const { return sqlite3_changes(handle()); }
+std::int64_t SqliteConnection::totalChanges() const { return sqlite3_total_changes64(handle()); }
 
 void SqliteConnection::raise(int rc, const QString& context) const {
     const int extended = db_ ? sqlite3_extended_errcode(db_) : rc;
     const QString message = QString::fromUtf8(db_ ? sqlite3_errmsg(db_) : sqlite3_errstr(rc));
     switch (rc & 0xFF) {
-        case SQLITE_NOTADB:
-            throw dataerrors::notADatabase(shownName_);
-        case SQLITE_CORRUPT:
-            throw dataerrors::damaged(shownName_);
-        case SQLITE_READONLY:
-            throw dataerrors::readOnly();
-        case SQLITE_BUSY:
-        case SQLITE_LOCKED:
-            throw dataerrors::locked();
-        case SQLITE_FULL:
-            throw dataerrors::diskFull();
-        case SQLITE_CANTOPEN:
-            throw dataerrors::cannotOpen(shownName_, message);
-        case SQLITE_CONSTRAINT:
-            if (extended == SQLITE_CONSTRAINT_UNIQUE || extended == SQLITE_CONSTRAINT_PRIMARYKEY)
-                throw dataerrors::duplicateKey();
-            if (extended == SQLITE_CONSTRAINT_NOTNULL || message == QLatin1String(dataerrors::kNullKeyText))
-                throw dataerrors::nullKey();
-            if (message == QLatin1String(dataerrors::kFieldTooSmallText)) throw dataerrors::fieldTooSmall();
-            throw dataerrors::engine(message);
-        default:
-            break;
+    case SQLITE_NOTADB: throw dataerrors::notADatabase(shownName_);
+    case SQLITE_CORRUPT: throw dataerrors::damaged(shownName_);
+    case SQLITE_READONLY: throw dataerrors::readOnly();
+    case SQLITE_BUSY:
+    case SQLITE_LOCKED: throw dataerrors::locked();
+    case SQLITE_FULL: throw dataerrors::diskFull();
+    case SQLITE_CANTOPEN: throw dataerrors::cannotOpen(shownName_, message);
+    case SQLITE_CONSTRAINT:
+        if (extended == SQLITE_CONSTRAINT_UNIQUE || extended == SQLITE_CONSTRAINT_PRIMARYKEY)
+            throw dataerrors::duplicateKey();
+        if (extended == SQLITE_CONSTRAINT_NOTNULL || message == QLatin1String(dataerrors::kNullKeyText))
+            throw dataerrors::nullKey();
+        if (message == QLatin1String(dataerrors::kFieldTooSmallText)) throw dataerrors::fieldTooSmall();
+        throw dataerrors::engine(message);
+    default: break;
     }
     if (message.startsWith(QLatin1String("no such table: ")))
         throw dataerrors::noSuchTable(after(message, QStringLiteral("no such table: ")));

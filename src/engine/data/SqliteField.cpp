@@ -4,17 +4,9 @@
 
 namespace sonarium {
 
-QVariant SqliteField::Value() const {
-    return records_.fieldValue(column_);
-}
-void SqliteField::setValue(const QVariant& v) {
-    records_.setFieldValue(column_, v);
-}
-QString SqliteField::Name() const {
-    return records_.column(column_).name;
-}
-int SqliteField::Size() const {
-    return records_.column(column_).width;
-}
+QVariant SqliteField::Value() const { return records_.fieldValue(column_); }
+void SqliteField::setValue(const QVariant& v) { records_.setFieldValue(column_, v); }
+QString SqliteField::Name() const { return records_.column(column_).name; }
+int SqliteField::Size() const { return records_.column(column_).width; }
 
 }  // namespace sonarium

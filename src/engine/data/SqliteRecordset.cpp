@@ -246,9 +246,7 @@ bool SqliteRecordset::NoMatch() {
     return noMatch_;
 }
 
-int SqliteRecordset::FieldCount() {
-    return static_cast<int>(columns_.size());
-}
+int SqliteRecordset::FieldCount() { return static_cast<int>(columns_.size()); }
 
 Field& SqliteRecordset::Fields(int number) {
     column(number);

@@ -14,9 +14,7 @@ SqliteStatement::SqliteStatement(SqliteStatement&& other) noexcept
     other.statement_ = nullptr;
 }
 
-SqliteStatement::~SqliteStatement() {
-    sqlite3_finalize(statement_);
-}
+SqliteStatement::~SqliteStatement() { sqlite3_finalize(statement_); }
 
 void SqliteStatement::reset() {
     sqlite3_reset(statement_);
@@ -58,24 +56,19 @@ void SqliteStatement::run() {
 
 QVariant SqliteStatement::value(int column) const {
     switch (sqlite3_column_type(statement_, column)) {
-        case SQLITE_NULL:
-            return {};
-        case SQLITE_INTEGER:
-            return QVariant::fromValue<qint64>(sqlite3_column_int64(statement_, column));
-        case SQLITE_FLOAT:
-            return sqlite3_column_double(statement_, column);
-        case SQLITE_BLOB:
-            return QByteArray(static_cast<const char*>(sqlite3_column_blob(statement_, column)),
-                              sqlite3_column_bytes(statement_, column));
-        default: {
-            const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement_, column));
-            return QString::fromUtf8(text, sqlite3_column_bytes(statement_, column));
-        }
+    case SQLITE_NULL: return {};
+    case SQLITE_INTEGER: return QVariant::fromValue<qint64>(sqlite3_column_int64(statement_, column));
+    case SQLITE_FLOAT: return sqlite3_column_double(statement_, column);
+    case SQLITE_BLOB:
+        return QByteArray(static_cast<const char*>(sqlite3_column_blob(statement_, column)),
+                          sqlite3_column_bytes(statement_, column));
+    default: {
+        const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement_, column));
+        return QString::fromUtf8(text, sqlite3_column_bytes(statement_, column));
+    }
     }
 }
 
-std::int64_t SqliteStatement::integer(int column) const {
-    return sqlite3_column_int64(statement_, column);
-}
+std::int64_t SqliteStatement::integer(int column) const { return sqlite3_column_int64(statement_, column); }
 
 }  // namespace sonarium

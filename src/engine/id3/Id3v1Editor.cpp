@@ -14,8 +14,6 @@ void Id3v1Editor::open(const QString& path, const QByteArray& lastBytes) {
     changes_ = {};
 }
 
-bool Id3v1Editor::writeTag() {
-    return !path_.isEmpty() && writeId3v1(path_, changes_);
-}
+bool Id3v1Editor::writeTag() { return !path_.isEmpty() && writeId3v1(path_, changes_); }
 
 }  // namespace sonarium

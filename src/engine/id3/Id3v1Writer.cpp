@@ -5,8 +5,8 @@
 #include <algorithm>
 
 #include "controls/FileNames.h"
-#include "engine/id3/Id3v1Tag.h"
 #include "controls/Windows1252.h"
+#include "engine/id3/Id3v1Tag.h"
 
 namespace sonarium {
 namespace {

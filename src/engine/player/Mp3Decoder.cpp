@@ -1,14 +1,15 @@
 #include "engine/player/Mp3Decoder.h"
 
+#include <fcntl.h>
+#include <mpg123.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 #include <QFile>
 #include <cerrno>
 #include <cmath>
 #include <cstdlib>
-#include <fcntl.h>
-#include <mpg123.h>
 #include <mutex>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include "controls/FileNames.h"
 #include "engine/player/Mp3Survey.h"
@@ -192,8 +193,8 @@ void Mp3Decoder::seekFrame(std::int32_t frame) {
 bool Mp3Decoder::formatUnchanged() const {
     long rate = 0;
     int channels = 0, encoding = 0;
-    return mpg123_getformat2(handle_, &rate, &channels, &encoding, 0) == MPG123_OK &&
-           rate == info_.rate && channels == info_.channels && encoding == MPG123_ENC_SIGNED_16;
+    return mpg123_getformat2(handle_, &rate, &channels, &encoding, 0) == MPG123_OK && rate == info_.rate &&
+           channels == info_.channels && encoding == MPG123_ENC_SIGNED_16;
 }
 
 bool Mp3Decoder::next(DecodedFrame& out) {

@@ -26,12 +26,12 @@ namespace sonarium {
 
 struct Mp3Info {
     std::int32_t frames = 0;
-    std::int64_t samples = 0;   // per channel, after gapless trimming
+    std::int64_t samples = 0;  // per channel, after gapless trimming
     int rate = 0;
-    int channels = 0;           // 1 or 2
-    int channelMode = 0;        // MPEG mode: 0 stereo, 1 joint, 2 dual, 3 mono
-    int bitRate = 0;            // kbit/s; the average for VBR
-    bool exactCount = true;     // the decoder itself knows the count: no frame lies past it
+    int channels = 0;        // 1 or 2
+    int channelMode = 0;     // MPEG mode: 0 stereo, 1 joint, 2 dual, 3 mono
+    int bitRate = 0;         // kbit/s; the average for VBR
+    bool exactCount = true;  // the decoder itself knows the count: no frame lies past it
     double seconds() const { return rate > 0 ? double(samples) / rate : 0.0; }
 };
 
@@ -75,7 +75,7 @@ private:
     mpg123_handle_struct* handle_ = nullptr;  // made on first need, kept until destruction
     QByteArray path_;                         // the open file's name, in the file system's encoding
     bool open_ = false;
-    bool streamOpen_ = false;                 // libmpg123 has the file open on handle_
+    bool streamOpen_ = false;  // libmpg123 has the file open on handle_
     Mp3Info info_;
     std::int32_t position_ = 0;
     bool ended_ = false;

@@ -15,11 +15,11 @@ qint64 id3v2Size(const QByteArray& head);
 struct FrameHeader {
     int version = 1;  // 1: MPEG-1, 2: MPEG-2, 3: MPEG-2.5
     int layer = 3;
-    int kbps = 0;     // 0: free format, whose frame size no header states
+    int kbps = 0;  // 0: free format, whose frame size no header states
     int rate = 0;
     bool padding = false;
     bool mono = false;
-    int mode = 0;     // 0 stereo, 1 joint stereo, 2 dual channel, 3 mono
+    int mode = 0;  // 0 stereo, 1 joint stereo, 2 dual channel, 3 mono
 
     int samples() const;  // per channel
     int bytes() const;    // this frame's, padding included; 0 for free format

@@ -17,9 +17,7 @@ Mp3Play::~Mp3Play() {
     alive_.reset();
 }
 
-bool Mp3Play::runLive() const {
-    return run_ && !run_->stopRequested() && !run_->finished();
-}
+bool Mp3Play::runLive() const { return run_ && !run_->stopRequested() && !run_->finished(); }
 
 // Called on the worker at a run's end, or on the UI thread by Stop; delivered on the UI thread.
 void Mp3Play::raiseStreamEnd(StreamEndRule::Token token) {

@@ -80,7 +80,8 @@ LengthSurvey surveyLength(qint64 size, const ReadAt& readAt) {
         // A header without a frame count: its frame is no audio, so bytes would not count. A
         // count the file's bytes could not hold at any rate is a lie: the frames are counted.
         const std::int64_t n = stated.frames;
-        const bool plausible = n * h.smallestBytes() <= audio && n * h.largestBytes() >= audio - h.largestBytes();
+        const bool plausible =
+            n * h.smallestBytes() <= audio && n * h.largestBytes() >= audio - h.largestBytes();
         if (n <= 0 || n > INT32_MAX || !plausible) return s;
         s.frames = n;
         if (stated.kind == LengthHeader::Xing) {

@@ -26,8 +26,8 @@ struct LengthSurvey {
     std::int64_t samples = 0;  // per channel, after gapless trimming
     int rate = 0;
     int channels = 0;
-    int channelMode = 0;       // of the first audio frame
-    int statedKbps = 0;        // the first audio frame's rate; 0 when the decoder calls it VBR
+    int channelMode = 0;  // of the first audio frame
+    int statedKbps = 0;   // the first audio frame's rate; 0 when the decoder calls it VBR
 };
 
 // The samples the decoder gives of `frames` frames of `samplesPerFrame` from an Xing header,

@@ -25,13 +25,13 @@ void makeHeader(unsigned char* h, int rate, int channels, std::uint32_t dataByte
     std::memcpy(h, "RIFF", 4);
     putLe(h + 4, dataBytes + kHeaderBytes - 8, 4);
     std::memcpy(h + 8, "WAVEfmt ", 8);
-    putLe(h + 16, 16, 4);                            // fmt chunk size
-    putLe(h + 20, 1, 2);                             // PCM
+    putLe(h + 16, 16, 4);  // fmt chunk size
+    putLe(h + 20, 1, 2);   // PCM
     putLe(h + 22, static_cast<std::uint32_t>(channels), 2);
     putLe(h + 24, static_cast<std::uint32_t>(rate), 4);
     putLe(h + 28, static_cast<std::uint32_t>(rate * channels * 2), 4);  // bytes per second
     putLe(h + 32, static_cast<std::uint32_t>(channels * 2), 2);         // block align
-    putLe(h + 34, 16, 2);                            // bits per sample
+    putLe(h + 34, 16, 2);                                               // bits per sample
     std::memcpy(h + 36, "data", 4);
     putLe(h + 40, dataBytes, 4);
 }
@@ -92,8 +92,8 @@ bool WavWriter::close() {
     const std::uint64_t data = std::min(dataBytes_, kMaxDataBytes / blockAlign * blockAlign);
     unsigned char header[kHeaderBytes];
     makeHeader(header, rate_, channels_, static_cast<std::uint32_t>(data));
-    bool ok = std::fseek(file_, 0, SEEK_SET) == 0 &&
-              std::fwrite(header, 1, kHeaderBytes, file_) == kHeaderBytes;
+    bool ok =
+        std::fseek(file_, 0, SEEK_SET) == 0 && std::fwrite(header, 1, kHeaderBytes, file_) == kHeaderBytes;
     ok = std::fclose(file_) == 0 && ok && ok_;
     file_ = nullptr;
     ok_ = ok;

@@ -10,8 +10,8 @@ MprisPlayerAdaptor::MprisPlayerAdaptor(QObject* parent, MediaControls& controls)
 QVariantMap MprisPlayerAdaptor::metadataOf(const SongInfo& song) {
     QVariantMap map;
     if (song.row < 0) {
-        map.insert(QStringLiteral("mpris:trackid"),
-                   QVariant::fromValue(QDBusObjectPath(QStringLiteral("/org/mpris/MediaPlayer2/TrackList/NoTrack"))));
+        map.insert(QStringLiteral("mpris:trackid"), QVariant::fromValue(QDBusObjectPath(QStringLiteral(
+                                                        "/org/mpris/MediaPlayer2/TrackList/NoTrack"))));
         return map;
     }
     // The queue row names the track: the same song queued twice is two tracks.
@@ -25,12 +25,26 @@ QVariantMap MprisPlayerAdaptor::metadataOf(const SongInfo& song) {
     return map;
 }
 
-void MprisPlayerAdaptor::setVolume(double volume) { feed(controls_.errors(), [&] { controls_.setVolume(volume); }); }
-void MprisPlayerAdaptor::Play() { feed(controls_.errors(), [&] { controls_.play(); }); }
-void MprisPlayerAdaptor::Pause() { feed(controls_.errors(), [&] { controls_.pause(); }); }
-void MprisPlayerAdaptor::PlayPause() { feed(controls_.errors(), [&] { controls_.playPause(); }); }
-void MprisPlayerAdaptor::Stop() { feed(controls_.errors(), [&] { controls_.stop(); }); }
-void MprisPlayerAdaptor::Next() { feed(controls_.errors(), [&] { controls_.next(); }); }
-void MprisPlayerAdaptor::Previous() { feed(controls_.errors(), [&] { controls_.previous(); }); }
+void MprisPlayerAdaptor::setVolume(double volume) {
+    feed(controls_.errors(), [&] { controls_.setVolume(volume); });
+}
+void MprisPlayerAdaptor::Play() {
+    feed(controls_.errors(), [&] { controls_.play(); });
+}
+void MprisPlayerAdaptor::Pause() {
+    feed(controls_.errors(), [&] { controls_.pause(); });
+}
+void MprisPlayerAdaptor::PlayPause() {
+    feed(controls_.errors(), [&] { controls_.playPause(); });
+}
+void MprisPlayerAdaptor::Stop() {
+    feed(controls_.errors(), [&] { controls_.stop(); });
+}
+void MprisPlayerAdaptor::Next() {
+    feed(controls_.errors(), [&] { controls_.next(); });
+}
+void MprisPlayerAdaptor::Previous() {
+    feed(controls_.errors(), [&] { controls_.previous(); });
+}
 
 }  // namespace sonarium

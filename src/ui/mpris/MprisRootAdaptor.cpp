@@ -14,7 +14,8 @@ void MprisRootAdaptor::Raise() {
     for (const QPointer<QWidget>& w : windows_) {
         if (!w || !w->isVisible()) continue;
         // The window's binding reports the new state to the form model.
-        if (w->windowState() & Qt::WindowMinimized) w->setWindowState(w->windowState() & ~Qt::WindowMinimized);
+        if (w->windowState() & Qt::WindowMinimized)
+            w->setWindowState(w->windowState() & ~Qt::WindowMinimized);
         // The offscreen platform has no stacking order and says so on every raise.
         if (QGuiApplication::platformName() != QLatin1String("offscreen")) w->raise();
         w->activateWindow();

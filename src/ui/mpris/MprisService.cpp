@@ -27,7 +27,8 @@ std::unique_ptr<MprisService> MprisService::start(MediaControls& controls, const
     return service;
 }
 
-MprisService::MprisService(MediaControls& controls, const QList<QWidget*>& windows, const QDBusConnection& bus)
+MprisService::MprisService(MediaControls& controls, const QList<QWidget*>& windows,
+                           const QDBusConnection& bus)
     : controls_(controls), bus_(bus), last_(controls.state()) {
     // Adaptors belong to this object and answer for it once it is registered.
     new MprisRootAdaptor(this, windows);
@@ -38,8 +39,8 @@ MprisService::MprisService(MediaControls& controls, const QList<QWidget*>& windo
 // The object first, then the name, so that whoever sees the name finds the object.
 bool MprisService::registerOn() {
     if (!bus_.registerObject(ObjectPath, this, QDBusConnection::ExportAdaptors)) return false;
-    for (const QString& name :
-         {BaseName, BaseName + QStringLiteral(".instance") + QString::number(QCoreApplication::applicationPid())}) {
+    for (const QString& name : {BaseName, BaseName + QStringLiteral(".instance") +
+                                              QString::number(QCoreApplication::applicationPid())}) {
         if (bus_.registerService(name)) {
             name_ = name;
             poll_.start(PollMs);
@@ -71,8 +72,8 @@ void MprisService::poll() {
         changed.insert(QStringLiteral("CanGoPrevious"), now.canGoPrevious);
     last_ = now;
 
-    QDBusMessage signal = QDBusMessage::createSignal(ObjectPath, QStringLiteral("org.freedesktop.DBus.Properties"),
-                                                     QStringLiteral("PropertiesChanged"));
+    QDBusMessage signal = QDBusMessage::createSignal(
+        ObjectPath, QStringLiteral("org.freedesktop.DBus.Properties"), QStringLiteral("PropertiesChanged"));
     signal << PlayerInterface << changed << QStringList();
     bus_.send(signal);
 }

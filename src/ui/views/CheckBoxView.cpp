@@ -6,16 +6,20 @@
 
 namespace sonarium {
 
-CheckBoxView::CheckBoxView(CheckBox& model, ErrorReporter& errors, QWidget* parent) : ControlView(model, errors, parent), box_(model) {
+CheckBoxView::CheckBoxView(CheckBox& model, ErrorReporter& errors, QWidget* parent)
+    : ControlView(model, errors, parent), box_(model) {
     clickOnRelease_ = false;
     setTristate(true);
     setFocusPolicy(Qt::StrongFocus);
-    connect(this, &QAbstractButton::clicked, this, [this] { feed([this] { box_.setValue(box_.Value() == 0 ? 1 : 0); }); });
+    connect(this, &QAbstractButton::clicked, this,
+            [this] { feed([this] { box_.setValue(box_.Value() == 0 ? 1 : 0); }); });
 }
 
 void CheckBoxView::syncOwn() {
     if (text() != box_.Caption()) setText(box_.Caption());
-    const Qt::CheckState state = box_.Value() == 1 ? Qt::Checked : box_.Value() == 2 ? Qt::PartiallyChecked : Qt::Unchecked;
+    const Qt::CheckState state = box_.Value() == 1   ? Qt::Checked
+                                 : box_.Value() == 2 ? Qt::PartiallyChecked
+                                                     : Qt::Unchecked;
     if (checkState() != state) setCheckState(state);
 }
 
@@ -23,7 +27,8 @@ void CheckBoxView::paintEvent(QPaintEvent*) {
     QPainter p(this);
     if (!painter_.paint(p, rect(), box_.picture(), false)) {
         if (width() <= 14 && height() <= 14)
-            hifi::paintLamp(p, rect(), box_.Value() != 0, box_.Value() == 2 ? hifi::colours::accent.darker(150) : hifi::colours::accent);
+            hifi::paintLamp(p, rect(), box_.Value() != 0,
+                            box_.Value() == 2 ? hifi::colours::accent.darker(150) : hifi::colours::accent);
         else
             paintBox(p);
     }

@@ -2,7 +2,8 @@
 
 namespace sonarium {
 
-ComboBoxView::ComboBoxView(ComboBox& model, ErrorReporter& errors, QWidget* parent) : ControlView(model, errors, parent), combo_(model) {
+ComboBoxView::ComboBoxView(ComboBox& model, ErrorReporter& errors, QWidget* parent)
+    : ControlView(model, errors, parent), combo_(model) {
     clickOnRelease_ = false;
     setFocusPolicy(Qt::StrongFocus);
     connect(this, &QComboBox::activated, this, [this](int row) {

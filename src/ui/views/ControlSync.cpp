@@ -37,7 +37,8 @@ int buttonsCode(Qt::MouseButtons b) {
 }
 
 int shiftCode(Qt::KeyboardModifiers m) {
-    return (m & Qt::ShiftModifier ? 1 : 0) | (m & Qt::ControlModifier ? 2 : 0) | (m & Qt::AltModifier ? 4 : 0);
+    return (m & Qt::ShiftModifier ? 1 : 0) | (m & Qt::ControlModifier ? 2 : 0) |
+           (m & Qt::AltModifier ? 4 : 0);
 }
 
 QPointF twipsAt(const QWidget& view, const QMouseEvent& e) {

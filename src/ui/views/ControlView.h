@@ -21,7 +21,8 @@ namespace sonarium {
 template <class Base>
 class ControlView : public Base {
 public:
-    ControlView(Control& model, ErrorReporter& errors, QWidget* parent) : Base(parent), model_(model), errors_(errors) {
+    ControlView(Control& model, ErrorReporter& errors, QWidget* parent)
+        : Base(parent), model_(model), errors_(errors) {
         this->setObjectName(viewName(model));
         // The platform reports every move over a control, not only drags.
         this->setMouseTracking(true);
@@ -58,7 +59,8 @@ protected:
     }
     void mouseReleaseEvent(QMouseEvent* e) override {
         const bool left = e->button() == Qt::LeftButton;
-        const bool click = clickOnRelease_ && left && leftPressed_ && this->rect().contains(e->position().toPoint());
+        const bool click =
+            clickOnRelease_ && left && leftPressed_ && this->rect().contains(e->position().toPoint());
         // A quick second click reports its release last, after the click it makes.
         const bool quick = left && std::exchange(quickClick_, false);
         if (left) leftPressed_ = false;

@@ -90,8 +90,8 @@ void DataGridView::syncOwn() {
     const QModelIndex want =
         current >= 0 && current < table_->rowCount() ? table_->index(current, col) : QModelIndex();
     if (currentIndex() != want && state() != QAbstractItemView::EditingState) {
-        selectionModel()->setCurrentIndex(want, want.isValid() ? QItemSelectionModel::ClearAndSelect
-                                                               : QItemSelectionModel::Clear);
+        selectionModel()->setCurrentIndex(
+            want, want.isValid() ? QItemSelectionModel::ClearAndSelect : QItemSelectionModel::Clear);
         if (want.isValid()) scrollTo(want);
     }
     viewport()->update();
@@ -104,7 +104,8 @@ void DataGridView::currentChanged(const QModelIndex& current, const QModelIndex&
     feed([&] { grid_.setCurrentCell(current.row(), current.column()); });
     // A pick the model refused: show its own current cell again.
     if (grid_.Row() != current.row() || grid_.Col() != current.column())
-        QMetaObject::invokeMethod(this, [this] { refresh(); }, Qt::QueuedConnection);
+        QMetaObject::invokeMethod(
+            this, [this] { refresh(); }, Qt::QueuedConnection);
 }
 
 void DataGridView::mousePressEvent(QMouseEvent* e) {

@@ -32,7 +32,8 @@ QString shownName(const QString& path) {
 
 }  // namespace
 
-DirListView::DirListView(DirListBox& model, ErrorReporter& errors, QWidget* parent) : ControlView(model, errors, parent), dirs_(model) {
+DirListView::DirListView(DirListBox& model, ErrorReporter& errors, QWidget* parent)
+    : ControlView(model, errors, parent), dirs_(model) {
     clickOnRelease_ = false;
     setUpListWidget(*this);
     setItemDelegate(new IndentDelegate(this));

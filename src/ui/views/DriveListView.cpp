@@ -2,7 +2,8 @@
 
 namespace sonarium {
 
-DriveListView::DriveListView(DriveListBox& model, ErrorReporter& errors, QWidget* parent) : ControlView(model, errors, parent), drives_(model) {
+DriveListView::DriveListView(DriveListBox& model, ErrorReporter& errors, QWidget* parent)
+    : ControlView(model, errors, parent), drives_(model) {
     clickOnRelease_ = false;
     setFocusPolicy(Qt::StrongFocus);
     connect(this, &QComboBox::activated, this, [this](int row) {

@@ -6,7 +6,8 @@
 
 namespace sonarium {
 
-FileListView::FileListView(FileListBox& model, ErrorReporter& errors, QWidget* parent) : ControlView(model, errors, parent), files_(model) {
+FileListView::FileListView(FileListBox& model, ErrorReporter& errors, QWidget* parent)
+    : ControlView(model, errors, parent), files_(model) {
     clickOnRelease_ = false;
     setUpListWidget(*this);
 }

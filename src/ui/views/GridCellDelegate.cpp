@@ -15,7 +15,8 @@ namespace sonarium {
 GridCellEditor::GridCellEditor(DataGrid& grid, ErrorReporter& errors, QWidget* parent)
     : QLineEdit(parent), grid_(grid), errors_(errors) {
     setFrame(false);
-    connect(this, &QLineEdit::textEdited, this, [this](const QString& t) { feed(errors_, [&] { grid_.setEditText(t); }); });
+    connect(this, &QLineEdit::textEdited, this,
+            [this](const QString& t) { feed(errors_, [&] { grid_.setEditText(t); }); });
 }
 
 void GridCellEditor::keyPressEvent(QKeyEvent* e) {
@@ -63,9 +64,11 @@ QRect GridCellDelegate::buttonRect(const QRect& cell) {
     return QRect(cell.right() - w + 1, cell.top() + 1, w, std::max(0, cell.height() - 2));
 }
 
-void GridCellDelegate::paint(QPainter* p, const QStyleOptionViewItem& option, const QModelIndex& index) const {
+void GridCellDelegate::paint(QPainter* p, const QStyleOptionViewItem& option,
+                             const QModelIndex& index) const {
     QStyledItemDelegate::paint(p, option, index);
-    if (index.column() >= grid_.ColumnCount() || !grid_.Column(index.column()).button || index.row() != grid_.Row())
+    if (index.column() >= grid_.ColumnCount() || !grid_.Column(index.column()).button ||
+        index.row() != grid_.Row())
         return;
     const QRect r = buttonRect(option.rect);
     hifi::paintButton(*p, r, QString(), false, true);
@@ -74,12 +77,13 @@ void GridCellDelegate::paint(QPainter* p, const QStyleOptionViewItem& option, co
     p->setPen(Qt::NoPen);
     p->setBrush(hifi::colours::legend);
     const QPointF c = QRectF(r).center();
-    p->drawPolygon(QPolygonF({QPointF(c.x() - 3.5, c.y() - 1.5), QPointF(c.x() + 3.5, c.y() - 1.5),
-                              QPointF(c.x(), c.y() + 2.5)}));
+    p->drawPolygon(QPolygonF(
+        {QPointF(c.x() - 3.5, c.y() - 1.5), QPointF(c.x() + 3.5, c.y() - 1.5), QPointF(c.x(), c.y() + 2.5)}));
     p->restore();
 }
 
-QWidget* GridCellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&, const QModelIndex&) const {
+QWidget* GridCellDelegate::createEditor(QWidget* parent, const QStyleOptionViewItem&,
+                                        const QModelIndex&) const {
     return new GridCellEditor(grid_, errors_, parent);
 }
 

@@ -84,8 +84,8 @@ void paintLamp(QPainter& p, const QRect& r, bool lit, const QColor& glow) {
     // A small highlight makes it read as a lens.
     p.setPen(Qt::NoPen);
     p.setBrush(QColor(255, 255, 255, lit ? 120 : 40));
-    p.drawEllipse(QRectF(box.left() + box.width() * 0.25, box.top() + box.height() * 0.15,
-                         box.width() * 0.3, box.height() * 0.3));
+    p.drawEllipse(QRectF(box.left() + box.width() * 0.25, box.top() + box.height() * 0.15, box.width() * 0.3,
+                         box.height() * 0.3));
     p.restore();
 }
 

@@ -39,6 +39,7 @@ void paintFocus(QPainter& p, const QRect& r);
 
 // The largest font from `maxPx` down to `minPx` pixels in which `text` fits `box` on one line
 // (or in wrapped lines when `wrap`).
-QFont fittedFont(QFont base, const QString& text, const QSize& box, int maxPx, int minPx = 8, bool wrap = false);
+QFont fittedFont(QFont base, const QString& text, const QSize& box, int maxPx, int minPx = 8,
+                 bool wrap = false);
 
 }  // namespace sonarium::hifi

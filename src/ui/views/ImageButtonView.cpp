@@ -6,7 +6,8 @@
 
 namespace sonarium {
 
-ImageButtonView::ImageButtonView(Image& model, ErrorReporter& errors, QWidget* parent) : ControlView(model, errors, parent), image_(model) {
+ImageButtonView::ImageButtonView(Image& model, ErrorReporter& errors, QWidget* parent)
+    : ControlView(model, errors, parent), image_(model) {
     clickOnRelease_ = false;
     setFocusPolicy(Qt::StrongFocus);
     connect(this, &QAbstractButton::clicked, this, [this] { pressed(); });

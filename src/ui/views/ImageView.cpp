@@ -14,7 +14,8 @@ void ImageView::paintEvent(QPaintEvent*) {
     if (!painter_.paint(p, rect(), image_.picture(), image_.Stretch())) paintBlank(p);
     if (box_ && !box_->printed().isEmpty()) {
         p.setPen(box_->ForeColor() ? toQColor(*box_->ForeColor()) : hifi::colours::legend);
-        p.drawText(rect().adjusted(3, 2, -3, -2), Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap, box_->printed());
+        p.drawText(rect().adjusted(3, 2, -3, -2), Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap,
+                   box_->printed());
     }
 }
 

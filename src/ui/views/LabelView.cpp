@@ -6,7 +6,8 @@
 
 namespace sonarium {
 
-LabelView::LabelView(Label& model, ErrorReporter& errors, QWidget* parent) : ControlView(model, errors, parent), label_(model) {
+LabelView::LabelView(Label& model, ErrorReporter& errors, QWidget* parent)
+    : ControlView(model, errors, parent), label_(model) {
     setTextFormat(Qt::PlainText);
 }
 

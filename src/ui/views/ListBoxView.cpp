@@ -30,7 +30,8 @@ int rowAfterKey(int key, int current, int count, int page) {
     }
 }
 
-ListBoxView::ListBoxView(ListBox& model, ErrorReporter& errors, QWidget* parent) : ControlView(model, errors, parent), list_(model) {
+ListBoxView::ListBoxView(ListBox& model, ErrorReporter& errors, QWidget* parent)
+    : ControlView(model, errors, parent), list_(model) {
     clickOnRelease_ = false;
     setUpListWidget(*this);
     connect(verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int top) {
@@ -47,7 +48,8 @@ void ListBoxView::syncOwn() {
         // Rows added at the end, as a queue is filled one row at a time: only they are new,
         // so filling a list of hundreds does not rebuild it once per row.
         const qsizetype shown = shownRows_.size();
-        const bool appended = rows.size() > shown && std::equal(shownRows_.begin(), shownRows_.end(), rows.begin());
+        const bool appended =
+            rows.size() > shown && std::equal(shownRows_.begin(), shownRows_.end(), rows.begin());
         if (appended) {
             addItems(rows.mid(shown));
         } else {

@@ -9,9 +9,10 @@ QImage toQImage(const Picture& picture) {
     // The image reads the picture's own buffer; a copy of the picture rides along as the
     // cleanup data, so the buffer lives as long as any image that shares it.
     auto* keep = new Picture(picture);
-    return QImage(reinterpret_cast<const uchar*>(keep->pixels()), keep->width(), keep->height(),
-                  keep->width() * int(sizeof(std::uint32_t)), QImage::Format_ARGB32,
-                  [](void* p) { delete static_cast<Picture*>(p); }, keep);
+    return QImage(
+        reinterpret_cast<const uchar*>(keep->pixels()), keep->width(), keep->height(),
+        keep->width() * int(sizeof(std::uint32_t)), QImage::Format_ARGB32,
+        [](void* p) { delete static_cast<Picture*>(p); }, keep);
 }
 
 Picture fromQImage(const QImage& image) {

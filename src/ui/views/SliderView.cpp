@@ -2,7 +2,8 @@
 
 namespace sonarium {
 
-SliderView::SliderView(Slider& model, ErrorReporter& errors, QWidget* parent) : ControlView(model, errors, parent), slider_(model) {
+SliderView::SliderView(Slider& model, ErrorReporter& errors, QWidget* parent)
+    : ControlView(model, errors, parent), slider_(model) {
     clickOnRelease_ = false;
     connect(this, &QSlider::valueChanged, this, [this](int v) {
         if (syncing_ || v == slider_.Value()) return;

@@ -20,7 +20,8 @@ int typedKeyAscii(const QKeyEvent& e) {
     return t[0].unicode();
 }
 
-TextBoxView::TextBoxView(TextBox& model, ErrorReporter& errors, QWidget* parent) : ControlView(model, errors, parent), box_(model) {
+TextBoxView::TextBoxView(TextBox& model, ErrorReporter& errors, QWidget* parent)
+    : ControlView(model, errors, parent), box_(model) {
     clickOnRelease_ = false;
     connect(this, &QLineEdit::textEdited, this, [this](const QString& t) { feed([&] { box_.setText(t); }); });
 }

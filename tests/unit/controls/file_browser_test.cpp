@@ -40,8 +40,7 @@ protected:
         EXPECT_TRUE(f.open(QIODevice::WriteOnly)) << rel.toStdString();
     }
     void symlink(const QString& target, const QString& rel) {
-        ASSERT_EQ(::symlink(QFile::encodeName(target).constData(),
-                            QFile::encodeName(root + u'/' + rel).constData()),
+        ASSERT_EQ(::symlink(QFile::encodeName(target).constData(), QFile::encodeName(root + u'/' + rel).constData()),
                   0);
     }
     // The drive lists' text of the volume mounted at `root`.
@@ -71,37 +70,30 @@ TEST_F(FileBrowser, DriveListFollowsVolumesAndNamesTheDriveOfAPath) {
     DriveListBox list("Drive1", volumes);
     int changes = 0;
     list.onChange = [&] { ++changes; };
-
     ASSERT_EQ(list.ListCount(), 4);
     EXPECT_EQ(list.Drive(), drive(a));
-    EXPECT_EQ(list.ListIndex(), 0);
-    EXPECT_EQ(list.Label(1), "Beta");
+    EXPECT_EQ(list.List(1), b + " [Beta]");
 
     // The longest mount point at a path boundary: A/inner holds its own files, AB is not in A.
-    EXPECT_EQ(list.DriveOf(a + "/inner/x/y"), nested);
-    EXPECT_EQ(list.DriveOf(a + "/innerx"), a);
-    EXPECT_EQ(list.DriveOf(ab + "/Music"), ab);
-    EXPECT_EQ(list.DriveOf(a), a);
-    EXPECT_EQ(list.DriveOf("relative/A"), "");
-    EXPECT_EQ(volumeRootOf({{"/", ""}, {"/media/usb", ""}}, "/media/usbx/a"), "/");
-    EXPECT_EQ(volumeRootOf({{"/", ""}, {"/media/usb", ""}}, "/media/usb/a"), "/media/usb");
+    for (auto [path, volume] : {std::pair{a + "/inner/x/y", nested},
+                                {a + "/innerx", a},
+                                {ab + "/Music", ab},
+                                {a, a},
+                                {QString("relative/A"), QString()}})
+        EXPECT_EQ(list.DriveOf(path), volume) << path.toStdString();
 
     // A path names the drive that holds it; the same drive again is no change.
     list.setDrive(b + "/deep/er");
-    EXPECT_EQ(list.Drive(), drive(b));
-    EXPECT_EQ(list.ListIndex(), 1);
     list.setDrive(b);
     list.setDrive(drive(b));
+    EXPECT_EQ(list.Drive(), drive(b));
+    EXPECT_EQ(list.ListIndex(), 1);
     EXPECT_EQ(changes, 1);
-    EXPECT_EQ(list.List(1), b + " [Beta]");
 
-    // A drive that isn't ready can be chosen: it is the directory list that fails on it.
+    // A drive that isn't ready can be chosen: it is the directory list that fails on it. A text
+    // on no volume, or a row past the end, fails and changes nothing.
     volumes.setReady(a, false);
     list.setListIndex(0);
-    EXPECT_EQ(list.Drive(), drive(a));
-    EXPECT_EQ(changes, 2);
-
-    // A text on no volume fails and changes nothing.
     EXPECT_EQ(errorOf([&] { list.setDrive("/nowhere/at/all"); }), RuntimeError::DeviceUnavailable);
     EXPECT_EQ(errorOf([&] { list.setListIndex(4); }), RuntimeError::InvalidPropertyValue);
     EXPECT_EQ(list.Drive(), drive(a));
@@ -113,7 +105,6 @@ TEST_F(FileBrowser, DriveListFollowsVolumesAndNamesTheDriveOfAPath) {
     list.setDrive(usb + "/Songs");
     const QString usbText = drive(usb);
     EXPECT_EQ(list.Drive(), usbText);
-    EXPECT_EQ(list.ListCount(), 5);
     volumes.remove(usb);
     list.Refresh();
     EXPECT_EQ(list.ListCount(), 4);
@@ -139,11 +130,6 @@ TEST_F(FileBrowser, DriveTextMovesToTheLastFolderAFolderListShowedOnThatDrive) {
     other.setPath(b);
     dir.setPath(drive(b));
     EXPECT_EQ(dir.Path(), b);
-    // A mount point, and "/" itself, are folders like any other.
-    dir.setPath(a);
-    EXPECT_EQ(dir.Path(), a);
-    dir.setPath("/");
-    EXPECT_EQ(dir.Path(), "/");
     // A drive whose current directory was removed falls back to its root.
     dir.setPath(bRock);
     dir.setPath(a);
@@ -186,38 +172,35 @@ TEST_F(FileBrowser, ChangeIsRaisedOnlyWhenThePathReallyChangesAndAFailedOneChang
     mkdir("A/Music/Jazz");
     mkdir("A/Music/Blues");
     mkdir("B/Rock");
+    touch("A/file.mp3");
     DirListBox dir("Dir1", volumes, drives);
-    dir.setPath(a + "/Music");
+    dir.setPath(a + "/Music/");
+    EXPECT_EQ(dir.Path(), a + "/Music") << "no closing slash";
+    EXPECT_EQ(dir.List(-2), a);
     int changes = 0;
     QStringList rowsSeen;
     dir.onChange = [&] { ++changes, rowsSeen = rows(dir); };
     const QStringList before = rows(dir);
 
-    EXPECT_EQ(errorOf([&] { dir.setPath(a + "/Missing"); }), RuntimeError::PathNotFound);
-    EXPECT_EQ(errorOf([&] { dir.setPath("Jazz/Missing"); }), RuntimeError::PathNotFound);
-    EXPECT_EQ(errorOf([&] { dir.setPath(""); }), RuntimeError::PathNotFound);
-    touch("A/file.mp3");
-    EXPECT_EQ(errorOf([&] { dir.setPath(a + "/file.mp3"); }), RuntimeError::PathNotFound);
-
     volumes.setReady(b, false);
-    EXPECT_EQ(errorOf([&] { dir.setPath(b); }), RuntimeError::DeviceUnavailable);
-    EXPECT_EQ(errorOf([&] { dir.setPath(b + "/Rock"); }), RuntimeError::DeviceUnavailable);
-
+    for (auto [path, error] : {std::pair{a + "/Missing", RuntimeError::PathNotFound},
+                               {QString("Jazz/Missing"), RuntimeError::PathNotFound},
+                               {QString(""), RuntimeError::PathNotFound},
+                               {a + "/file.mp3", RuntimeError::PathNotFound},
+                               {b, RuntimeError::DeviceUnavailable},
+                               {b + "/Rock", RuntimeError::DeviceUnavailable}})
+        EXPECT_EQ(errorOf([&] { dir.setPath(path); }), error) << path.toStdString();
     EXPECT_EQ(dir.Path(), a + "/Music");
     EXPECT_EQ(rows(dir), before);
     volumes.setReady(b, true);
 
-    // The same directory in other words is no change.
-    dir.setPath(a + "/Music");
-    dir.setPath(a + "/Music/");
-    dir.setPath(".");
-    dir.setPath("Jazz/..");
-    dir.setPath(dir.List(dir.ListIndex()));  // ListIndex -1 is the directory itself
+    // The same directory in other words is no change; ListIndex -1 is the directory itself.
+    for (const QString& same : {a + "/./Music/", QString("."), QString("Jazz/.."), dir.List(dir.ListIndex())})
+        dir.setPath(same);
     EXPECT_EQ(changes, 0);
 
     // The handler already sees the new directory's rows.
     dir.setPath("Jazz");
-    EXPECT_EQ(changes, 1);
     EXPECT_TRUE(rowsSeen.isEmpty());
     dir.setPath("..");
     EXPECT_EQ(changes, 2);
@@ -228,29 +211,13 @@ TEST_F(FileBrowser, ChangeIsRaisedOnlyWhenThePathReallyChangesAndAFailedOneChang
     dir.setPath(dir.Path());
     EXPECT_EQ(dir.ListCount(), 3);
     EXPECT_EQ(changes, 2);
-    dir.setPath(b + "/Rock");
-    EXPECT_EQ(changes, 3);
-}
 
-TEST_F(FileBrowser, PathHasNoClosingSlashButAtTheRoot) {
-    mkdir("A/Music");
-    DirListBox dir("Dir1", volumes, drives);
-    dir.setPath(a + "/./Music/");
-    EXPECT_EQ(dir.Path(), a + "/Music");
-    EXPECT_EQ(dir.List(-1), a + "/Music");
-    EXPECT_EQ(dir.List(-2), a);
-
+    // "/" is a folder like any other, its rows one slash each.
     dir.setPath("/");
-    EXPECT_EQ(dir.Path(), "/");
     EXPECT_EQ(dir.List(-1), "/");
     EXPECT_EQ(dir.List(-2), "");
     ASSERT_GT(dir.ListCount(), 0);
-    for (const QString& r : rows(dir)) {
-        EXPECT_TRUE(r.startsWith(u'/') && !r.startsWith(QStringLiteral("//"))) << r.toStdString();
-        EXPECT_EQ(r.count(u'/'), 1) << r.toStdString();
-    }
-    dir.setPath(a + "/../..");
-    EXPECT_EQ(dir.Path(), QDir::cleanPath(root + "/.."));
+    for (const QString& r : rows(dir)) EXPECT_TRUE(r.startsWith(u'/') && r.count(u'/') == 1) << r.toStdString();
 }
 
 TEST_F(FileBrowser, SubdirectoriesAreSortedWithoutRegardToCaseAndReadOneLevel) {
@@ -270,14 +237,11 @@ TEST_F(FileBrowser, SubdirectoriesAreSortedWithoutRegardToCaseAndReadOneLevel) {
     // The loop can be walked as deep as one likes; each level reads only itself.
     dir.setPath("loop/loop/loop");
     EXPECT_EQ(dir.Path(), a + "/loop/loop/loop");
-    EXPECT_EQ(dir.ListCount(), 7);
     EXPECT_EQ(dir.List(5), a + "/loop/loop/loop/loop");
 
     // A directory we cannot read is entered, and simply has no rows.
     dir.setPath(a + "/locked");
-    if (::geteuid() != 0) {
-        EXPECT_EQ(dir.ListCount(), 0);
-    }
+    EXPECT_TRUE(dir.ListCount() == 0 || ::geteuid() == 0);
 
     // Components are found without regard to case.
     dir.setPath(a + "/BETA/DEEP");
@@ -288,7 +252,6 @@ TEST_F(FileBrowser, SubdirectoriesAreSortedWithoutRegardToCaseAndReadOneLevel) {
     int clicks = 0;
     dir.onClick = [&] { ++clicks; };
     dir.setListIndex(2);
-    EXPECT_EQ(dir.List(dir.ListIndex()), a + "/Gamma");
     EXPECT_EQ(dir.Path(), a);
     EXPECT_EQ(clicks, 1);
     EXPECT_EQ(errorOf([&] { dir.setListIndex(7); }), RuntimeError::InvalidPropertyValue);
@@ -296,23 +259,19 @@ TEST_F(FileBrowser, SubdirectoriesAreSortedWithoutRegardToCaseAndReadOneLevel) {
 }
 
 TEST_F(FileBrowser, FileListMatchesPatternsInAnyCaseSortedWithoutRegardToCase) {
-    const char* names[] = {"song.mp3",  "Track 10.MP3", "b.Mp3",   "zz.mp3", "a.wav", "notes.txt", "README",
-                           "x.mp3.bak", ".hidden.mp3",  "m01.mp3", "m2.mp3", "Q.MP3", "c.mP3"};
-    for (const char* n : names) touch(QString("A/") + n);
+    for (const char* n : {"song.mp3", "Track 10.MP3", "b.Mp3", "zz.mp3", "a.wav", "notes.txt", "README", "x.mp3.bak",
+                          ".hidden.mp3", "m01.mp3", "m2.mp3", "Q.MP3", "c.mP3"})
+        touch(QString("A/") + n);
     mkdir("A/folder.mp3");
     symlink(root + "/nothing.mp3", "A/dangling.mp3");
 
     FileListBox files("Fillist");
     EXPECT_EQ(files.Pattern(), "*.MP3");
     files.setPath(a);
-    const QStringList expected = {"b.Mp3",  "c.mP3",        "m01.mp3", "m2.mp3",
-                                  "Q.MP3", "song.mp3", "Track 10.MP3", "zz.mp3"};
-    EXPECT_EQ(rows(files), expected);
-
+    EXPECT_EQ(rows(files),
+              QStringList({"b.Mp3", "c.mP3", "m01.mp3", "m2.mp3", "Q.MP3", "song.mp3", "Track 10.MP3", "zz.mp3"}));
     files.setPattern("*.wav;*.TXT");
-    QStringList wavAndText = rows(files);
-    wavAndText.sort();
-    EXPECT_EQ(wavAndText, QStringList({"a.wav", "notes.txt"}));
+    EXPECT_EQ(rows(files), QStringList({"a.wav", "notes.txt"}));
     files.setPattern("*.*");
     EXPECT_EQ(files.ListCount(), 12);  // with README, which has no dot
     files.setPattern("m?.MP3");
@@ -320,11 +279,9 @@ TEST_F(FileBrowser, FileListMatchesPatternsInAnyCaseSortedWithoutRegardToCase) {
 
     // A missing directory fails and leaves the list where it was.
     files.setListIndex(0);
-    EXPECT_EQ(files.FileName(), "m2.mp3");
     EXPECT_EQ(errorOf([&] { files.setPath(a + "/nope"); }), RuntimeError::PathNotFound);
     EXPECT_EQ(files.Path(), a);
-    EXPECT_EQ(rows(files), QStringList({"m2.mp3"}));
-    EXPECT_EQ(files.ListIndex(), 0);
+    EXPECT_EQ(files.FileName(), "m2.mp3");
 
     // A new path is read afresh, even the same one, and found without regard to case.
     touch("A/m3.mp3");
@@ -335,58 +292,41 @@ TEST_F(FileBrowser, FileListMatchesPatternsInAnyCaseSortedWithoutRegardToCase) {
 }
 
 TEST(Wildcards, MatchWithoutRegardToCase) {
-    struct Case {
-        const char* pattern;
-        const char* name;
-        bool match;
-    } cases[] = {
-        {"*.MP3", "song.mp3", true},
-        {"*.MP3", "song.mp3.bak", false},
-        {"*.MP3", ".mp3", true},
-        {"*.mp3", "A.B.MP3", true},
-        {"*.*", "README", true},
-        {"*", "", true},
-        {"?.wav", "a.WAV", true},
-        {"?.wav", "ab.wav", false},
-        {"*a*b", "xxAyyB", true},
-        {"*a*b", "xxAyyBc", false},
-        {"a*", "", false},
-        {"[ab].mp3", "a.mp3", false},
-        {"[ab].mp3", "[AB].MP3", true},
-        {"Ärger*", "ärger.mp3", true},
+    const std::tuple<const char*, const char*, bool> cases[] = {
+        {"*.MP3", "song.mp3", true},   {"*.MP3", "song.mp3.bak", false}, {"*.MP3", ".mp3", true},
+        {"*.mp3", "A.B.MP3", true},    {"*.*", "README", true},          {"*", "", true},
+        {"?.wav", "a.WAV", true},      {"?.wav", "ab.wav", false},       {"*a*b", "xxAyyB", true},
+        {"*a*b", "xxAyyBc", false},    {"a*", "", false},                {"[ab].mp3", "a.mp3", false},
+        {"[ab].mp3", "[AB].MP3", true}, {"Ärger*", "ärger.mp3", true},
     };
-    for (const Case& c : cases)
-        EXPECT_EQ(wildcardMatch(QString::fromUtf8(c.pattern), QString::fromUtf8(c.name)), c.match)
-            << c.pattern << " vs " << c.name;
+    for (auto [pattern, name, match] : cases)
+        EXPECT_EQ(wildcardMatch(QString::fromUtf8(pattern), QString::fromUtf8(name)), match) << pattern << " " << name;
 }
 
 TEST_F(FileBrowser, FileNamesAreFoundWithoutRegardToCase) {
     mkdir("A/Music/Rock");
     touch("A/Music/Rock/Song.mp3");
     touch("A/Music/Temp.WAV");
-    const QString song = a + "/Music/Rock/Song.mp3";
-
-    EXPECT_EQ(resolveFileName(song), song);
-    EXPECT_EQ(resolveFileName(a + "/Music/Rock/SONG.MP3"), song);
-    EXPECT_EQ(resolveFileName(a + "/MUSIC/rock/song.Mp3"), song);
-    EXPECT_EQ(resolveFileName(a + "/music//ROCK/"), a + "/Music/Rock/");
-    EXPECT_EQ(resolveFileName(a + "/music/temp.wav"), a + "/Music/Temp.WAV");
-    // A new file keeps its spelling, in the directory that exists.
-    EXPECT_EQ(resolveFileName(a + "/MUSIC/New.WAV"), a + "/Music/New.WAV");
-    EXPECT_EQ(resolveFileName(a + "/Nowhere/New.WAV"), a + "/Nowhere/New.WAV");
-    EXPECT_EQ(resolveFileName(a + "/music/../MUSIC/rock"), a + "/Music/../Music/Rock");
+    symlink(a, "A/loop");
+    symlink(root + "/A/self", "A/self");
+    // A new file keeps its spelling, in the directory that exists; looping symlinks are walked
+    // by name, never followed for ever.
+    for (auto [given, found] : {std::pair{"/Music/Rock/Song.mp3", "/Music/Rock/Song.mp3"},
+                                {"/MUSIC/rock/song.Mp3", "/Music/Rock/Song.mp3"},
+                                {"/music//ROCK/", "/Music/Rock/"},
+                                {"/music/temp.wav", "/Music/Temp.WAV"},
+                                {"/MUSIC/New.WAV", "/Music/New.WAV"},
+                                {"/Nowhere/New.WAV", "/Nowhere/New.WAV"},
+                                {"/music/../MUSIC/rock", "/Music/../Music/Rock"},
+                                {"/LOOP/loop/Music/rock/SONG.mp3", "/loop/loop/Music/Rock/Song.mp3"},
+                                {"/self/x.mp3", "/self/x.mp3"}})
+        EXPECT_EQ(resolveFileName(a + given), a + found) << given;
 
     EXPECT_TRUE(fileExists(a + "/MUSIC/ROCK/song.MP3"));
     EXPECT_FALSE(fileExists(a + "/music/rock"));  // a directory is not a file
     EXPECT_TRUE(dirExists(a + "/music/rock"));
     EXPECT_FALSE(fileExists(a + "/music/rock/other.mp3"));
     EXPECT_FALSE(fileExists(""));
-
-    // Looping symlinks end quickly: the loop is walked by name, never followed for ever.
-    symlink(a, "A/loop");
-    symlink(root + "/A/self", "A/self");
-    EXPECT_EQ(resolveFileName(a + "/LOOP/loop/Music/rock/SONG.mp3"), a + "/loop/loop/Music/Rock/Song.mp3");
-    EXPECT_EQ(resolveFileName(a + "/self/x.mp3"), a + "/self/x.mp3");
     EXPECT_FALSE(fileExists(a + "/SELF"));
     EXPECT_TRUE(matchFiles(a + "/self", "*.*").isEmpty());
 

@@ -1,8 +1,6 @@
 // The library scanner and the manual add, on the real library in a temporary directory: the
 // walk's order, what a new file's record holds, the count and its message, a filter in force,
 // a cancel, the 16-bit limit of the record loops, the dialog's faces and the manual update.
-#include <sqlite3.h>
-
 #include <random>
 
 #include <unistd.h>
@@ -52,27 +50,25 @@ protected:
         tc.dialogs.clear();
         form1().cmdSearch.Click();
     }
+    // The manual add of the files named, one after the other, then Close.
+    void add(const QStringList& names) {
+        tc.loop.post([=, this] {
+            general().Activate();
+            for (const QString& name : names) {
+                general().File1.setListIndex(general().File1.rows().indexOf(name));
+                general().cmdAdd.Click();
+            }
+            general().CmdClose.Click();
+        });
+        tc.dialogs.clear();
+        form1().CmdDataAdd.Click();
+    }
 
     // The files the player opened, relative to the test's directory.
     QStringList opened() const {
         QStringList out;
         for (const QString& c : tc.mp3.calls())
             if (c.startsWith(u"Open(")) out << c.mid(5).chopped(2).remove(0, dir.path().size() + 1);
-        return out;
-    }
-
-    // One column of every record of the library file, in the order they were added.
-    QStringList column(const QString& name) {
-        sqlite3* db = nullptr;
-        EXPECT_EQ(sqlite3_open(path("SonariumData.mdb").toUtf8().constData(), &db), SQLITE_OK);
-        sqlite3_stmt* st = nullptr;
-        const QByteArray sql = "SELECT \"" + name.toUtf8() + "\" FROM SongData ORDER BY rowid";
-        EXPECT_EQ(sqlite3_prepare_v2(db, sql.constData(), -1, &st, nullptr), SQLITE_OK) << sql.constData();
-        QStringList out;
-        while (st && sqlite3_step(st) == SQLITE_ROW)
-            out << QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(st, 0)));
-        sqlite3_finalize(st);
-        sqlite3_close(db);
         return out;
     }
     QStringList files() { return column(QStringLiteral("File")); }
@@ -86,10 +82,7 @@ TEST_F(Scanner, WalksSubdirectoriesLastToFirstDepthFirstWithFilesLastAndCounts) 
     song("B/b1.MP3");
     scan(dir.path(), true);
     EXPECT_EQ(opened(), QStringList({"B/b1.MP3", "A/A2/x.MP3", "A/A1/deep.mp3", "A/a1.MP3", "top.MP3"}));
-    ASSERT_EQ(tc.dialogs.shown().size(), 1u);
-    EXPECT_EQ(tc.dialogs.shown()[0].text, "5 new titles found");
-    EXPECT_EQ(tc.dialogs.shown()[0].title, "Auto Update");
-    EXPECT_EQ(tc.dialogs.shown()[0].icon, MsgIcon::Information);
+    EXPECT_EQ(said(0), "Auto Update: 5 new titles found");
     EXPECT_EQ(form1().lblRecords.Caption(), "5");
     EXPECT_FALSE(form1().SearchRunning);
     EXPECT_EQ(form1().Dir1.Path(), dir.path());
@@ -120,6 +113,8 @@ TEST_F(Scanner, WalksSubdirectoriesLastToFirstDepthFirstWithFilesLastAndCounts) 
     // drive lands there: from any folder the walk is that folder's whole tree.
     scan(path("A"), true);
     EXPECT_EQ(opened(), QStringList({"A/A2/x.MP3", "A/A1/deep.mp3", "A/a1.MP3"}));
+    EXPECT_TRUE(M().IncludeSubDirs);
+    EXPECT_EQ(form1().CurrentDir, path("A") + u'/');
     // Without sub-directories only the chosen directory's files.
     scan(path("A"), false);
     EXPECT_EQ(opened(), QStringList({"A/a1.MP3"}));
@@ -127,7 +122,7 @@ TEST_F(Scanner, WalksSubdirectoriesLastToFirstDepthFirstWithFilesLastAndCounts) 
 }
 
 TEST_F(Scanner, NamesTooLongForTheirColumnsAndFilesThePlayerCannotOpen) {
-    const QString longName = QString(52, u'n') + ".MP3";          // File over 50
+    const QString longName = QString(52, u'n') + ".MP3";                      // File over 50
     const QString tooLong = QString(100 - dir.path().size(), u'k') + ".MP3";  // key over 100
     song(longName);
     song(tooLong);
@@ -137,12 +132,11 @@ TEST_F(Scanner, NamesTooLongForTheirColumnsAndFilesThePlayerCannotOpen) {
     const QStringList keys = column("Path\\File");
     ASSERT_EQ(keys.size(), 2);
     EXPECT_TRUE(keys.contains(path(longName)));
-    EXPECT_TRUE(keys.contains(path("broken.MP3")));
     const int broken = keys.indexOf(path("broken.MP3"));
+    ASSERT_GE(broken, 0);
     EXPECT_EQ(files()[1 - broken], "") << "a name too long leaves File empty";
     EXPECT_EQ(files()[broken], "broken");
     EXPECT_EQ(column("Duration")[broken], "00:00");
-    EXPECT_EQ(column("Year")[broken], "0");
 }
 
 // A link back up the tree is followed once, and the walk ends.
@@ -159,7 +153,6 @@ TEST_F(Scanner, ALinkBackUpTheTreeIsNotWalkedAgainAndALockedDirectoryIsPassedOve
     if (::geteuid() == 0) expected.insert(1, "A/locked/hidden.MP3");
     EXPECT_EQ(opened(), expected);
     EXPECT_EQ(tc.dialogs.texts(), QStringList({QString::number(expected.size()) + " new titles found"}));
-    EXPECT_EQ(form1().Dir1.Path(), dir.path());
 }
 
 // Only the records in view are known. A file outside the filter is new, is refused as a
@@ -180,7 +173,7 @@ TEST_F(Scanner, AFilterInForceCountsDuplicatesThatAreNotStored) {
     EXPECT_EQ(tc.dialogs.texts(), QStringList({"3 new titles found"}));
     EXPECT_EQ(files(), QStringList({"k", "o", "new"}));
     // The grid comes back in its order, without its filter.
-    EXPECT_EQ(data.RecordSource(), "Select * From SongData Order By [File]");
+    EXPECT_EQ(source(), "Select * From SongData Order By [File]");
     EXPECT_EQ(form1().lblRecords.Caption(), "3");
 }
 
@@ -207,135 +200,69 @@ TEST_F(Scanner, CancelStopsTheWalkAndKeepsWhatWasAdded) {
 // Record loops count in 16 bits: past 32767 records nothing is found, every file is new, and
 // the library refuses the duplicates.
 TEST_F(Scanner, ALibraryPastTheRecordLoopsRangeKnowsNothing) {
-    const QString known = song("known.MP3");
-    auto fill = [&](int from, int to) {
-        sqlite3* db = nullptr;
-        ASSERT_EQ(sqlite3_open(path("SonariumData.mdb").toUtf8().constData(), &db), SQLITE_OK);
-        sqlite3_exec(db, "PRAGMA journal_mode=OFF; PRAGMA synchronous=OFF; PRAGMA cache_size=-64000; BEGIN", nullptr, nullptr, nullptr);
-        sqlite3_stmt* st = nullptr;
-        sqlite3_prepare_v2(db, "INSERT INTO SongData ([Path\\File]) VALUES (?1)", -1, &st, nullptr);
-        for (int i = from; i < to; ++i) {
-            const QByteArray key = i == 0 ? known.toUtf8() : QByteArray("/x/") + QByteArray::number(i) + ".MP3";
-            sqlite3_bind_text(st, 1, key.constData(), int(key.size()), SQLITE_TRANSIENT);
-            sqlite3_step(st);
-            sqlite3_reset(st);
-        }
-        sqlite3_finalize(st);
-        sqlite3_exec(db, "COMMIT", nullptr, nullptr, nullptr);
-        sqlite3_close(db);
-        data.Refresh();
-        form1().UpdateRecordCount();
-    };
-    fill(0, 32767);
+    song("known.MP3");
+    const QByteArray known = path("known.MP3").toUtf8();
+    sql("INSERT INTO SongData ([Path\\File]) VALUES ('" + known + "');"
+        "INSERT INTO SongData ([Path\\File]) WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n "
+        "WHERE i < 32766) SELECT '/x/' || i || '.MP3' FROM n");
     scan(dir.path(), false);
     EXPECT_EQ(tc.dialogs.texts(), QStringList({"0 new titles found"}));
-    fill(32767, 32768);
+    sql("INSERT INTO SongData ([Path\\File]) VALUES ('/x/32767.MP3')");
     scan(dir.path(), false);
     EXPECT_EQ(tc.dialogs.texts(), QStringList({"1 new titles found"}));
     EXPECT_EQ(form1().lblRecords.Caption(), "32768");
-
-    tc.loop.post([this] {
-        general().Activate();
-        general().File1.setListIndex(general().File1.rows().indexOf("known.MP3"));
-        general().cmdAdd.Click();
-        general().CmdClose.Click();
-    });
-    tc.dialogs.clear();
-    form1().CmdDataAdd.Click();
+    add({"known.MP3"});
     EXPECT_EQ(tc.dialogs.texts(), QStringList({"File Added"})) << "not found, and refused as a duplicate";
 }
 
-TEST_F(Scanner, TheScanFaceAndTheDialogsAnswers) {
+// Each command shows its face of the shared dialog, and closing puts back the design's (the
+// manual add face).
+TEST_F(Scanner, EachCommandShowsItsFaceOfTheDialog) {
     FrmGeneral& g = general();
-    QDir().mkpath(path("Music"));
-    bool seen = false;
-    tc.loop.post([&] {
-        seen = g.Visible() && g.Modal() && g.Drive1.Visible() && g.Dir1.Visible() && g.lblStartFrom.Visible() &&
-               g.cmdOK.Visible() && g.cmdCancel.Visible() && !g.cmdAdd.Visible() && !g.CmdClose.Visible() &&
-               !g.File1.Visible() && !g.Label1.Visible() && g.chkSubs.Visible();
-        g.Activate();
-        EXPECT_EQ(g.Dir1.Path(), dir.path()) << "the dialog starts where the main window is";
-        g.Dir1.setPath(path("Music"));
-        g.cmdCancel.Click();
-    });
-    form1().cmdSearch.Click();
-    EXPECT_TRUE(seen);
-    EXPECT_TRUE(tc.dialogs.shown().empty()) << "a cancelled dialog scans nothing";
-    EXPECT_FALSE(M().DialogAccepted);
-    EXPECT_EQ(form1().Dir1.Path(), dir.path());
-    // Back to the design: the add face.
-    EXPECT_TRUE(g.File1.Visible() && g.Label1.Visible() && g.cmdAdd.Visible() && g.CmdClose.Visible());
-    EXPECT_FALSE(g.lblStartFrom.Visible() || g.cmdOK.Visible() || g.cmdCancel.Visible());
-
-    // OK hands the directory and the sub-directory choice to the main window.
-    scan(path("Music"), true);
-    EXPECT_TRUE(M().DialogAccepted);
-    EXPECT_TRUE(M().IncludeSubDirs);
-    EXPECT_EQ(form1().Dir1.Path(), path("Music"));
-    EXPECT_EQ(form1().CurrentDir, path("Music") + u'/');
-    EXPECT_EQ(tc.dialogs.texts(), QStringList({"0 new titles found"}));
-
-    // A drive that isn't ready is asked about; on No the lists go back to the drive in use, at
-    // its current directory.
-    const QString usb = path("usb");
-    QDir().mkpath(usb);
-    tc.volumes.add(usb, "USB", false);
-    g.Drive1.Refresh();
-    tc.dialogs.clear();
-    tc.dialogs.answer(MsgResult::Yes).answer(MsgResult::No);
-    g.Drive1.setDrive(usb);
-    const QString text = "Not ready reading Drive " + usb.toUpper() + " [USB] Retry?";
-    EXPECT_EQ(tc.dialogs.texts(), QStringList({text, text}));
-    EXPECT_EQ(tc.dialogs.shown()[0].title, "Change Drive");
-    EXPECT_EQ(g.Drive1.Drive(), g.Drive1.List(0));
-    EXPECT_EQ(g.Dir1.Path(), path("Music"));
-    EXPECT_EQ(g.File1.Path(), path("Music"));
+    const auto face = [&] {
+        QStringList shown;
+        for (Control* c : g.allControls())
+            if (c->Visible() && c != &g.lblTitle && c != &g.lblVersion && c != &g.lblTagline) shown << c->Name();
+        return shown.join(' ');
+    };
+    const QString manualAdd = "Label1 File1 Drive1 Dir1 chkSubs lblSubs cmdAdd CmdClose";
+    Form1& f = form1();
+    const std::pair<std::function<void()>, QString> cases[] = {
+        {[&] { f.cmdSearch.Click(); }, "lblStartFrom Drive1 Dir1 chkSubs lblSubs cmdOK cmdCancel"},
+        {[&] { f.mnuViewCriteria.Click(); }, "lblAutoSet List1 chkSubs lblSubs cmdOK"},
+        {[&] { f.mnuSelectSkin.Click(); }, "lblStartFrom Drive1 Dir1 cmdOK cmdCancel"},
+        {[&] { f.CmdDataAdd.Click(); }, manualAdd},
+    };
+    for (const auto& [command, expected] : cases) {
+        QString seen;
+        tc.loop.post([&] {
+            seen = face();
+            EXPECT_TRUE(g.Modal()) << expected.toStdString();
+            (g.cmdCancel.Visible() ? g.cmdCancel : g.cmdOK.Visible() ? g.cmdOK : g.CmdClose).Click();
+        });
+        command();
+        EXPECT_EQ(seen, expected);
+        EXPECT_EQ(face(), manualAdd) << expected.toStdString();
+    }
+    EXPECT_TRUE(tc.dialogs.shown().empty()) << "a cancelled scan scans nothing";
 }
 
 TEST_F(Scanner, ManualAddThenUpdateKeepsWhatTheUserTyped) {
-    FrmGeneral& g = general();
     song("Song.MP3", 200, {"First", "Band", "", "", 2001, 3});
     song("Long.MP3", 40000);
-    const auto pick = [&](const QString& name) { g.File1.setListIndex(g.File1.rows().indexOf(name)); };
-    tc.loop.post([&] {
-        EXPECT_TRUE(g.File1.Visible() && g.cmdAdd.Visible() && !g.cmdOK.Visible() && !g.lblStartFrom.Visible());
-        g.Activate();
-        g.cmdAdd.Click();  // nothing picked yet
-        pick("Song.MP3");
-        g.cmdAdd.Click();
-        pick("Long.MP3");
-        g.cmdAdd.Click();
-        EXPECT_TRUE(g.Visible()) << "the dialog stays for the next file";
-        g.CmdClose.Click();
-    });
-    form1().CmdDataAdd.Click();
-    EXPECT_FALSE(g.Visible());
+    add({"", "Song.MP3", "Long.MP3"});  // nothing picked at first
+    EXPECT_FALSE(general().Visible());
     EXPECT_EQ(tc.dialogs.texts(), QStringList({"No file selected", "File Added", "File Added"}));
-    EXPECT_EQ(tc.dialogs.shown()[0].title, "Add/Update");
-    EXPECT_EQ(tc.dialogs.shown()[0].icon, MsgIcon::Exclamation);
-    EXPECT_EQ(tc.dialogs.shown()[1].title, "Manual Update");
-    EXPECT_EQ(tc.dialogs.shown()[1].icon, MsgIcon::Information);
+    EXPECT_EQ(said(0), "Add/Update: No file selected");
+    EXPECT_EQ(said(1), "Manual Update: File Added");
     EXPECT_EQ(column("Duration"), QStringList({"03:20", "00:00"})) << "a length past 16 bits is lost";
     EXPECT_EQ(form1().lblRecords.Caption(), "0") << "the count is not refreshed";
 
     // The user types a tempo and a title; the tag changes; the update takes the tag's texts
     // and leaves the tempo.
-    form1().UpdateRecordCount();
-    Recordset& r = data.recordset();
-    r.MoveFirst();
-    r.Edit();
-    r.Fields(QStringLiteral("Tempo")).setValue(QStringLiteral("Slow"));
-    r.Fields(QStringLiteral("Song Title")).setValue(QStringLiteral("Typed"));
-    r.Update();
+    sql("UPDATE SongData SET Tempo = 'Slow', \"Song Title\" = 'Typed' WHERE File = 'Song'");
     tc.mp3.addFile(path("Song.MP3"), 100, 200, 128, 44100, 0, {"Second", "Band", "", "", 2002, 3});
-    tc.dialogs.clear();
-    tc.loop.post([&] {
-        g.Activate();
-        pick("Song.MP3");
-        g.cmdAdd.Click();
-        g.CmdClose.Click();
-    });
-    form1().CmdDataAdd.Click();
+    add({"Song.MP3"});
     EXPECT_EQ(tc.dialogs.texts(), QStringList({"File Updated"}));
     EXPECT_EQ(column("Song Title"), QStringList({"Second", ""}));
     EXPECT_EQ(column("Year"), QStringList({"2002", "0"}));

@@ -63,9 +63,9 @@ protected:
     QString said(std::size_t i) const { return tc.dialogs.shown().at(i).title + ": " + tc.dialogs.shown().at(i).text; }
 
     // Straight into the library file, behind the data control's back; the view is read again.
-    void sql(const char* statement) {
+    void sql(const QByteArray& statement) {
         sqlite3* db = open();
-        EXPECT_EQ(sqlite3_exec(db, statement, nullptr, nullptr, nullptr), SQLITE_OK) << sqlite3_errmsg(db);
+        EXPECT_EQ(sqlite3_exec(db, statement.constData(), nullptr, nullptr, nullptr), SQLITE_OK) << sqlite3_errmsg(db);
         sqlite3_close(db);
         data.Refresh();
         form1().UpdateRecordCount();

@@ -31,7 +31,8 @@ TEST(ListBoxModel, SelectingAnotherRowFiresTheClickAndTheSelectionFollowsItsRow)
     ListBox sorted("List1");
     sorted.setSorted(true);
     for (const char* t : {"beta", "Alpha", "alpha", "Gamma", "ALPHA"}) sorted.AddItem(t);
-    EXPECT_EQ(sorted.rows(), QStringList({"Alpha", "alpha", "ALPHA", "beta", "Gamma"})) << "equal rows keep arrival";
+    EXPECT_EQ(sorted.rows(), QStringList({"Alpha", "alpha", "ALPHA", "beta", "Gamma"}))
+        << "equal rows keep arrival";
     EXPECT_EQ(sorted.NewIndex(), 2);
 }
 
@@ -39,7 +40,9 @@ TEST(ControlModels, TextBoxesComboBoxesAndCheckBoxesTakeWhatTheUserDoes) {
     TextBox box("txtTrackTitle");
     int changes = 0;
     box.onChange = [&] { ++changes; };
-    box.onKeyPress = [](int& key) { if (key == 32) key = 0; };
+    box.onKeyPress = [](int& key) {
+        if (key == 32) key = 0;
+    };
     box.setMaxLength(4);
     for (char c : std::string("ab cde")) box.KeyPress(c);
     EXPECT_EQ(box.Text(), "abcd");
@@ -92,9 +95,15 @@ TEST(ControlModels, BadValuesFailAndChangeNothing) {
     ControlArray<Label> titles("Title", 12);
     const Picture sheet = Picture::filled(4, 3, 0xff000000);
     const std::function<void()> bad[] = {
-        [&] { list.setListIndex(1); },     [&] { list.setListIndex(-2); },  [&] { list.RemoveItem(1); },
-        [&] { check.setValue(3); },        [&] { timer.setInterval(65536); }, [&] { timer.setInterval(-1); },
-        [&] { titles[12]; },               [&] { sheet.cut(3, 0, 2, 1); },  [&] { sheet.cut(0, 0, 0, 1); },
+        [&] { list.setListIndex(1); },
+        [&] { list.setListIndex(-2); },
+        [&] { list.RemoveItem(1); },
+        [&] { check.setValue(3); },
+        [&] { timer.setInterval(65536); },
+        [&] { timer.setInterval(-1); },
+        [&] { titles[12]; },
+        [&] { sheet.cut(3, 0, 2, 1); },
+        [&] { sheet.cut(0, 0, 0, 1); },
         [&] { Picture().cut(0, 0, 1, 1); },
     };
     for (std::size_t i = 0; i < std::size(bad); ++i) EXPECT_THROW(bad[i](), RuntimeError) << i;

@@ -29,7 +29,8 @@ protected:
     }
 
     // A record as the scanner would store it, for tests that need a library with content.
-    void addRecord(const QString& dir, const QString& file, const QString& artist = {}, const QString& album = {}) {
+    void addRecord(const QString& dir, const QString& file, const QString& artist = {},
+                   const QString& album = {}) {
         Recordset& r = data.recordset();
         r.AddNew();
         r.Fields(QStringLiteral("Path\\File")).setValue(dir + u'/' + file + QStringLiteral(".MP3"));
@@ -58,14 +59,19 @@ protected:
         form1().imgDown[column].Click();
     }
     QString source() const { return data.RecordSource(); }
-    QString current(const char* field) { return data.recordset().Fields(QString::fromLatin1(field)).Value().toString(); }
+    QString current(const char* field) {
+        return data.recordset().Fields(QString::fromLatin1(field)).Value().toString();
+    }
     // The i-th dialog shown, as "title: text".
-    QString said(std::size_t i) const { return tc.dialogs.shown().at(i).title + ": " + tc.dialogs.shown().at(i).text; }
+    QString said(std::size_t i) const {
+        return tc.dialogs.shown().at(i).title + ": " + tc.dialogs.shown().at(i).text;
+    }
 
     // Straight into the library file, behind the data control's back; the view is read again.
     void sql(const QByteArray& statement) {
         sqlite3* db = open();
-        EXPECT_EQ(sqlite3_exec(db, statement.constData(), nullptr, nullptr, nullptr), SQLITE_OK) << sqlite3_errmsg(db);
+        EXPECT_EQ(sqlite3_exec(db, statement.constData(), nullptr, nullptr, nullptr), SQLITE_OK)
+            << sqlite3_errmsg(db);
         sqlite3_close(db);
         data.Refresh();
         form1().UpdateRecordCount();
@@ -75,7 +81,8 @@ protected:
         sqlite3* db = open();
         sqlite3_stmt* st = nullptr;
         const QByteArray query = "SELECT \"" + name.toUtf8() + "\" FROM SongData ORDER BY rowid";
-        EXPECT_EQ(sqlite3_prepare_v2(db, query.constData(), -1, &st, nullptr), SQLITE_OK) << query.constData();
+        EXPECT_EQ(sqlite3_prepare_v2(db, query.constData(), -1, &st, nullptr), SQLITE_OK)
+            << query.constData();
         QStringList out;
         while (st && sqlite3_step(st) == SQLITE_ROW)
             out << QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(st, 0)));

@@ -44,7 +44,8 @@ TEST_F(Browser, ADirectoryChangeNamesTheFolderAndItsPicture) {
 TEST_F(Browser, ADriveThatIsNotReadyIsAskedAboutUntilTheUserGivesUp) {
     tc.volumes.setReady(usb, false);
     const QString text = "Not ready reading Drive " + usb.toUpper() + " [STICK] Retry?";
-    for (auto [drive, folders] : {std::pair{&form1().Drive1, &form1().Dir1}, {&general().Drive1, &general().Dir1}}) {
+    for (auto [drive, folders] :
+         {std::pair{&form1().Drive1, &form1().Dir1}, {&general().Drive1, &general().Dir1}}) {
         const QString before = folders->Path();
         tc.dialogs.clear();
         tc.dialogs.answer(MsgResult::Yes).answer(MsgResult::No);

@@ -37,7 +37,8 @@ TEST_F(Database, CreatingAndChoosingLibraries) {
     f.mnuCreateDatabase.Click();
     ASSERT_EQ(tc.dialogs.shown().size(), 2u);
     const QString said = tc.dialogs.shown()[1].text;
-    EXPECT_TRUE(said.startsWith("Cannot create database - " + path("Missing/Folder/New.mdb") + "\n")) << said.toStdString();
+    EXPECT_TRUE(said.startsWith("Cannot create database - " + path("Missing/Folder/New.mdb") + "\n"))
+        << said.toStdString();
     EXPECT_GT(said.size(), 30 + path("Missing/Folder/New.mdb").size());
     EXPECT_EQ(M().DatabasePath, path("SonariumData.mdb"));
     f.SaveConfig();

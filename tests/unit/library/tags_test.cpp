@@ -21,8 +21,8 @@ TEST_F(Tags, UpdateTagWritesOnlyTheFilledBoxesButNotWhilePlaying) {
     f.cboGenre.setListIndex(8);
     tc.mp3.clearCalls();
     f.cmdUpdateTag.Click();
-    EXPECT_EQ(tc.mp3.calls().mid(0, 6), QStringList({"Close", "Open(/m/Song.MP3,)", "SetTagTitle(New Title)", "SetTagGenre(8)",
-                                           "Close", "WriteTag"}));
+    EXPECT_EQ(tc.mp3.calls().mid(0, 6), QStringList({"Close", "Open(/m/Song.MP3,)", "SetTagTitle(New Title)",
+                                                     "SetTagGenre(8)", "Close", "WriteTag"}));
 
     f.BtnPlay.MouseUp(LeftButton, 0, 0, 0);
     tc.dialogs.answer(MsgResult::OK);

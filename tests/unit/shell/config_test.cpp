@@ -22,11 +22,19 @@ protected:
     QString state() {
         Form1& f = form1();
         const auto on = [](bool menu, bool other) { return QString::number(menu) + QString::number(other); };
-        return QStringList{QString::number(M().MiniMode), QString::number(M().VUMeterOn), M().DatabasePath,
-                           QString::number(f.PhotoWidth), QString::number(M().EncoderChoice), M().SkinPath,
-                           QString::number(f.mnuStopAfterSong.Checked()), QString::number(f.tmrInfo.Interval()),
-                           on(f.mnuTimerOn.Checked(), f.tmrInfo.Enabled()), M().MiniSkinPath, M().AlarmTime,
-                           on(f.mnuAlarmOnOff.Checked(), f.tmrAlarm.Enabled()), f.Caption(),
+        return QStringList{QString::number(M().MiniMode),
+                           QString::number(M().VUMeterOn),
+                           M().DatabasePath,
+                           QString::number(f.PhotoWidth),
+                           QString::number(M().EncoderChoice),
+                           M().SkinPath,
+                           QString::number(f.mnuStopAfterSong.Checked()),
+                           QString::number(f.tmrInfo.Interval()),
+                           on(f.mnuTimerOn.Checked(), f.tmrInfo.Enabled()),
+                           M().MiniSkinPath,
+                           M().AlarmTime,
+                           on(f.mnuAlarmOnOff.Checked(), f.tmrAlarm.Enabled()),
+                           f.Caption(),
                            on(f.mnuInternal.Checked(), f.cboSampleRate.Visible())}
             .join(u'|');
     }
@@ -43,9 +51,11 @@ TEST_F(Config, ShortHandEditedAndShiftedFiles) {
         {" 0 \r\n 0 \r\n/db.mdb\r\n 3465 \r\n 2 \r\n/skin\r\n-1 \r\n 0 \r\n 2 \r\n/deck\r\n07:00\r\n-1 \r\n",
          "0|0|/db.mdb|3465|2|/skin|0|10000|00|/deck|07:00|00||11"},
         // Junk numbers read as their leading number; a quoted path keeps its comma.
-        {"abc\r\n1x\r\n\"/quoted, path\"\r\n 3645.4 \r\n", "0|1|/quoted, path|3645|1||0|10000|00||00:00|00||00"},
+        {"abc\r\n1x\r\n\"/quoted, path\"\r\n 3645.4 \r\n",
+         "0|1|/quoted, path|3645|1||0|10000|00||00:00|00||00"},
         // A comma in a stored path shifts every later field.
-        {" 0 \r\n 0 \r\n/home/me/Rock, Pop/Songs.mdb\r\n 1920 \r\n 0 \r\n/skins/Dark\r\n 0 \r\n 20000 \r\n 0 \r\n"
+        {" 0 \r\n 0 \r\n/home/me/Rock, Pop/Songs.mdb\r\n 1920 \r\n 0 \r\n/skins/Dark\r\n 0 \r\n 20000 \r\n 0 "
+         "\r\n"
          "\r\n00:00\r\n 0 \r\n",
          "0|0|/home/me/Rock|0|1920|0 |0|10000|00|0 |00:00|00||11"},
         // A field that fails ends the load and skips its later steps: the library path stays

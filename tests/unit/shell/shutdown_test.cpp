@@ -12,8 +12,9 @@ TEST_F(Shutdown, ClosingWritesTheTwelveSettingsByteForByte) {
     EXPECT_FALSE(QFile::exists(path("Config.dat")));
     EXPECT_FALSE(form1().QueryUnload()) << "the close runs to its end itself";
     // The first start's defaults, as a missing file leaves them.
-    const QByteArray expected = " 0 \r\n 0 \r\n" + path("SonariumData.mdb").toUtf8() + "\r\n 3465 \r\n 1 \r\n" +
-                                dir.path().toUtf8() + "\r\n 0 \r\n 10000 \r\n 0 \r\n\r\n00:00\r\n 0 \r\n";
+    const QByteArray expected = " 0 \r\n 0 \r\n" + path("SonariumData.mdb").toUtf8() +
+                                "\r\n 3465 \r\n 1 \r\n" + dir.path().toUtf8() +
+                                "\r\n 0 \r\n 10000 \r\n 0 \r\n\r\n00:00\r\n 0 \r\n";
     EXPECT_EQ(read("Config.dat"), expected);
     EXPECT_EQ(tc.desktop.quitCode(), 0);
     EXPECT_FALSE(form1().Visible());
@@ -24,8 +25,9 @@ TEST_F(Shutdown, ClosingWritesTheTwelveSettingsByteForByte) {
 // Every field of a full file is read at start and written back as it was, but the mini mode:
 // quitting from the mini player makes the next start open the main window.
 TEST_F(Shutdown, QuitWritesBackEveryFieldItReadAndLeavesMiniMode) {
-    const QByteArray rest = " 1 \r\n/db/Ünïcode Songs.mdb\r\n 1920 \r\n 0 \r\n/skins/Blue\r\n 1 \r\n 20000 \r\n 1 \r\n"
-                            "/skins/Deck\r\n07:30\r\n 1 \r\n";
+    const QByteArray rest =
+        " 1 \r\n/db/Ünïcode Songs.mdb\r\n 1920 \r\n 0 \r\n/skins/Blue\r\n 1 \r\n 20000 \r\n 1 \r\n"
+        "/skins/Deck\r\n07:30\r\n 1 \r\n";
     write("Config.dat", " 1 \r\n" + rest);
     program().Main();
     EXPECT_FALSE(form1().Visible());
@@ -37,11 +39,14 @@ TEST_F(Shutdown, ASecondCloseRequestDuringTheWaitIsIgnored) {
     program().Main();
     M().SongPlaying = true;
     int quitsSeenInside = -1;
-    tc.loop.startTimer(100, [&] {
-        form1().QueryUnload();  // the user presses the close button again
-        quitsSeenInside = tc.desktop.quitCode().has_value() ? 1 : 0;
-        M().SongPlaying = false;
-    }, true);
+    tc.loop.startTimer(
+        100,
+        [&] {
+            form1().QueryUnload();  // the user presses the close button again
+            quitsSeenInside = tc.desktop.quitCode().has_value() ? 1 : 0;
+            M().SongPlaying = false;
+        },
+        true);
     form1().QueryUnload();
     EXPECT_EQ(quitsSeenInside, 0);
     EXPECT_EQ(tc.desktop.quitCode(), 0);

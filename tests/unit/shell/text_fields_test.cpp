@@ -1,6 +1,7 @@
 // The one reader and writer of the program's text files, against hand-made files.
-#include <QTemporaryDir>
 #include <gtest/gtest.h>
+
+#include <QTemporaryDir>
 
 #include "integration/fixtures/ErrorNumber.h"
 #include "shell/TextFields.h"
@@ -32,9 +33,9 @@ TEST(TextFieldReader, FieldsEndAtCommaOrLineEndAndQuotedFieldsRunToTheirQuote) {
     EXPECT_EQ(r.readNumber(), 12);
     EXPECT_EQ(r.readString(), "a, quoted");  // what follows the quote up to the comma is passed over
     EXPECT_EQ(r.readString(), "last");
-    EXPECT_EQ(r.readString(), "");           // an empty line reads as an empty string
-    EXPECT_EQ(r.readString(), "tail  ");     // leading blanks skipped, trailing ones kept
-    EXPECT_EQ(r.readNumber(), -7);           // a number also ends at a blank
+    EXPECT_EQ(r.readString(), "");        // an empty line reads as an empty string
+    EXPECT_EQ(r.readString(), "tail  ");  // leading blanks skipped, trailing ones kept
+    EXPECT_EQ(r.readNumber(), -7);        // a number also ends at a blank
     EXPECT_EQ(r.readNumber(), 8);
     EXPECT_EQ(r.readString(), "x");
     EXPECT_TRUE(r.atEnd());
@@ -49,13 +50,18 @@ TEST(TextFieldReader, NumbersFollowTheLeadingNumberRule) {
     EXPECT_EQ(r.readNumber(), 128);  // ends at the blank: "kHz" is the next field
     EXPECT_EQ(r.readString(), "kHz");
     EXPECT_DOUBLE_EQ(r.readNumber(), 44.1);
-    EXPECT_EQ(r.readNumber(), 0);    // empty line
-    EXPECT_EQ(r.readInt16(), 2);     // 1.5 rounds to the even 2
-    EXPECT_EQ(r.readInt16(), 2);     // 2.5 too
+    EXPECT_EQ(r.readNumber(), 0);  // empty line
+    EXPECT_EQ(r.readInt16(), 2);   // 1.5 rounds to the even 2
+    EXPECT_EQ(r.readInt16(), 2);   // 2.5 too
     EXPECT_EQ(errorOf([&] { r.readInt16(); }), RuntimeError::Overflow) << "99999 fits no 16-bit field";
 
-    for (auto [text, number] : {std::pair{"  -12abc", -12.0}, {"+4", 4.0}, {".5", 0.5}, {"1e3x", 1000.0},
-                                {"1e", 1.0}, {"-", 0.0}, {"", 0.0}})
+    for (auto [text, number] : {std::pair{"  -12abc", -12.0},
+                                {"+4", 4.0},
+                                {".5", 0.5},
+                                {"1e3x", 1000.0},
+                                {"1e", 1.0},
+                                {"-", 0.0},
+                                {"", 0.0}})
         EXPECT_EQ(leadingNumber(text), number) << text;
     EXPECT_EQ(roundHalfEven(-2.5), -2);
 }

@@ -112,18 +112,15 @@ TEST_F(FileBrowser, DriveListFollowsVolumesAndNamesTheDriveOfAPath) {
 }
 
 TEST_F(FileBrowser, DriveTextMovesToTheLastFolderAFolderListShowedOnThatDrive) {
-    const QString aMusic = mkdir("A/Music");
+    mkdir("A/Music");
     const QString bRock = mkdir("B/Rock");
     DirListBox dir("Dir1", volumes, drives), other("Dir1", volumes, drives);
-    QStringList seen;
-    dir.onChange = [&] { seen << dir.Path(); };
-
-    dir.setPath(drive(a));  // at first a drive's mount point
+    dir.setPath(drive(a));
+    EXPECT_EQ(dir.Path(), a) << "at first a drive's mount point";
     dir.setPath("Music");
-    dir.setPath(drive(b));
     dir.setPath(bRock);
     dir.setPath(drive(a));
-    EXPECT_EQ(seen, QStringList({a, aMusic, b, bRock, aMusic}));
+    EXPECT_EQ(dir.Path(), a + "/Music");
 
     // Any folder list moves it: the other list was last on B at its mount point.
     other.setPath(b);
@@ -220,40 +217,31 @@ TEST_F(FileBrowser, ChangeIsRaisedOnlyWhenThePathReallyChangesAndAFailedOneChang
 }
 
 TEST_F(FileBrowser, SubdirectoriesAreSortedWithoutRegardToCaseAndReadOneLevel) {
-    for (const char* d : {"A/zeta", "A/Alpha", "A/beta/deep", "A/Gamma", "A/.hidden", "A/locked"}) mkdir(d);
+    for (const char* d : {"A/zeta", "A/Alpha", "A/beta/deep", "A/Gamma", "A/.hidden"}) mkdir(d);
     touch("A/file.MP3");
     symlink(a + "/beta", "A/Link");
     symlink(a, "A/loop");                 // a symlink back to its own parent
     symlink(root + "/A/self", "A/self");  // a symlink to itself
     symlink(root + "/nothing", "A/dangling");
-    ASSERT_EQ(::chmod(QFile::encodeName(a + "/locked").constData(), 0), 0);
 
     DirListBox dir("Dir1", volumes, drives);
     dir.setPath(a);
-    EXPECT_EQ(rows(dir), QStringList({a + "/Alpha", a + "/beta", a + "/Gamma", a + "/Link", a + "/locked",
-                                      a + "/loop", a + "/zeta"}));
+    EXPECT_EQ(rows(dir),
+              QStringList({a + "/Alpha", a + "/beta", a + "/Gamma", a + "/Link", a + "/loop", a + "/zeta"}));
 
     // The loop can be walked as deep as one likes; each level reads only itself.
     dir.setPath("loop/loop/loop");
-    EXPECT_EQ(dir.List(5), a + "/loop/loop/loop/loop");
+    EXPECT_EQ(dir.List(4), a + "/loop/loop/loop/loop");
 
-    // A directory we cannot read is entered, and simply has no rows.
-    dir.setPath(a + "/locked");
-    EXPECT_TRUE(dir.ListCount() == 0 || ::geteuid() == 0);
-
-    // Components are found without regard to case.
-    dir.setPath(a + "/BETA/DEEP");
-    EXPECT_EQ(dir.Path(), a + "/beta/deep");
-
-    // Highlighting a row does not move the list.
+    // Highlighting a row does not move the list. (An unreadable directory is the scan's test;
+    // finding names without regard to case, the file names' below.)
     dir.setPath(a);
     int clicks = 0;
     dir.onClick = [&] { ++clicks; };
     dir.setListIndex(2);
     EXPECT_EQ(dir.Path(), a);
     EXPECT_EQ(clicks, 1);
-    EXPECT_EQ(errorOf([&] { dir.setListIndex(7); }), RuntimeError::InvalidPropertyValue);
-    ::chmod(QFile::encodeName(a + "/locked").constData(), 0755);
+    EXPECT_EQ(errorOf([&] { dir.setListIndex(6); }), RuntimeError::InvalidPropertyValue);
 }
 
 TEST_F(FileBrowser, FileListMatchesPatternsInAnyCaseSortedWithoutRegardToCase) {
@@ -279,34 +267,20 @@ TEST_F(FileBrowser, FileListMatchesPatternsInAnyCaseSortedWithoutRegardToCase) {
     EXPECT_EQ(files.Path(), a);
     EXPECT_EQ(files.FileName(), "m2.mp3");
 
-    // A new path is read afresh, even the same one, and found without regard to case.
+    // A new path is read afresh, even the same one.
     touch("A/m3.mp3");
-    files.setPath(root + "/a/../a");
-    EXPECT_EQ(files.Path(), a);
+    files.setPath(a);
     EXPECT_EQ(files.ListCount(), 2);
     EXPECT_EQ(files.ListIndex(), -1);
 }
 
+// Each case is "pattern|name".
 TEST(Wildcards, MatchWithoutRegardToCase) {
-    const std::tuple<const char*, const char*, bool> cases[] = {
-        {"*.MP3", "song.mp3", true},
-        {"*.MP3", "song.mp3.bak", false},
-        {"*.MP3", ".mp3", true},
-        {"*.mp3", "A.B.MP3", true},
-        {"*.*", "README", true},
-        {"*", "", true},
-        {"?.wav", "a.WAV", true},
-        {"?.wav", "ab.wav", false},
-        {"*a*b", "xxAyyB", true},
-        {"*a*b", "xxAyyBc", false},
-        {"a*", "", false},
-        {"[ab].mp3", "a.mp3", false},
-        {"[ab].mp3", "[AB].MP3", true},
-        {"Ärger*", "ärger.mp3", true},
-    };
-    for (auto [pattern, name, match] : cases)
-        EXPECT_EQ(wildcardMatch(QString::fromUtf8(pattern), QString::fromUtf8(name)), match)
-            << pattern << " " << name;
+    for (const QString c : {"*.MP3|song.mp3", "*.MP3|.mp3", "*.mp3|A.B.MP3", "*.*|README", "*|",
+                            "?.wav|a.WAV", "*a*b|xxAyyB", "[ab].mp3|[AB].MP3", "Ärger*|ärger.mp3"})
+        EXPECT_TRUE(wildcardMatch(c.section(u'|', 0, 0), c.section(u'|', 1))) << c.toStdString();
+    for (const QString c : {"*.MP3|song.mp3.bak", "?.wav|ab.wav", "*a*b|xxAyyBc", "a*|", "[ab].mp3|a.mp3"})
+        EXPECT_FALSE(wildcardMatch(c.section(u'|', 0, 0), c.section(u'|', 1))) << c.toStdString();
 }
 
 TEST_F(FileBrowser, FileNamesAreFoundWithoutRegardToCase) {

@@ -54,12 +54,10 @@ protected:
     QStringList colours() {
         Form1& f = form1();
         QStringList out;
-        for (const Control* c : std::initializer_list<const Control*>{&f.Dir1, &f.lstSongs, &f.DBGrid1})
-            for (auto colour : {c->BackColor(), c->ForeColor()})
-                out << (colour ? QStringLiteral("%1,%2,%3").arg(colour->r).arg(colour->g).arg(colour->b)
-                               : "-");
-        for (auto colour : {f.Title[11].ForeColor(), f.lblTime.ForeColor()})
-            out << (colour ? QStringLiteral("%1,%2,%3").arg(colour->r).arg(colour->g).arg(colour->b) : "-");
+        for (auto c :
+             {f.Dir1.BackColor(), f.Dir1.ForeColor(), f.lstSongs.BackColor(), f.lstSongs.ForeColor(),
+              f.DBGrid1.BackColor(), f.DBGrid1.ForeColor(), f.Title[11].ForeColor(), f.lblTime.ForeColor()})
+            out << (c ? QStringLiteral("%1,%2,%3").arg(c->r).arg(c->g).arg(c->b) : QStringLiteral("-"));
         return out;
     }
 };

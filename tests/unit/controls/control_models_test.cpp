@@ -87,18 +87,16 @@ TEST(ControlModels, BadValuesFailAndChangeNothing) {
     Timer timer("tmrInfo", loop, 30000);
     ControlArray<Label> titles("Title", 12);
     const Picture sheet = Picture::filled(4, 3, 0xff000000);
-    const std::function<void()> bad[] = {
-        [&] { list.setListIndex(1); },
-        [&] { list.setListIndex(-2); },
-        [&] { list.RemoveItem(1); },
-        [&] { check.setValue(3); },
-        [&] { timer.setInterval(65536); },
-        [&] { timer.setInterval(-1); },
-        [&] { titles[12]; },
-        [&] { sheet.cut(3, 0, 2, 1); },
-        [&] { sheet.cut(0, 0, 0, 1); },
-        [&] { Picture().cut(0, 0, 1, 1); },
-    };
+    const std::function<void()> bad[] = {[&] { list.setListIndex(1); },
+                                         [&] { list.setListIndex(-2); },
+                                         [&] { list.RemoveItem(1); },
+                                         [&] { check.setValue(3); },
+                                         [&] { timer.setInterval(65536); },
+                                         [&] { timer.setInterval(-1); },
+                                         [&] { titles[12]; },
+                                         [&] { sheet.cut(3, 0, 2, 1); },
+                                         [&] { sheet.cut(0, 0, 0, 1); },
+                                         [&] { Picture().cut(0, 0, 1, 1); }};
     for (std::size_t i = 0; i < std::size(bad); ++i) EXPECT_THROW(bad[i](), RuntimeError) << i;
     EXPECT_EQ(list.ListCount(), 1);
     EXPECT_EQ(list.ListIndex(), -1);

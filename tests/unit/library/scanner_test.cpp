@@ -193,6 +193,39 @@ TEST_F(Scanner, ALibraryPastTheRecordLoopsRangeKnowsNothing) {
     EXPECT_EQ(tc.dialogs.texts(), QStringList({"File Added"})) << "not found, and refused as a duplicate";
 }
 
+// Each command shows its face of the shared dialog, and closing puts back the design's (the
+// manual add face).
+TEST_F(Scanner, EachCommandShowsItsFaceOfTheDialog) {
+    FrmGeneral& g = general();
+    const auto face = [&] {
+        QStringList shown;
+        for (Control* c : g.allControls())
+            if (c->Visible() && c != &g.lblTitle && c != &g.lblVersion && c != &g.lblTagline)
+                shown << c->Name();
+        return shown.join(' ');
+    };
+    const QString manualAdd = "Label1 File1 Drive1 Dir1 chkSubs lblSubs cmdAdd CmdClose";
+    Form1& f = form1();
+    const std::pair<std::function<void()>, QString> cases[] = {
+        {[&] { f.cmdSearch.Click(); }, "lblStartFrom Drive1 Dir1 chkSubs lblSubs cmdOK cmdCancel"},
+        {[&] { f.mnuViewCriteria.Click(); }, "lblAutoSet List1 chkSubs lblSubs cmdOK"},
+        {[&] { f.mnuSelectSkin.Click(); }, "lblStartFrom Drive1 Dir1 cmdOK cmdCancel"},
+        {[&] { f.CmdDataAdd.Click(); }, manualAdd},
+    };
+    for (const auto& [command, expected] : cases) {
+        QString seen;
+        tc.loop.post([&] {
+            seen = face();
+            EXPECT_TRUE(g.Modal()) << expected.toStdString();
+            (g.cmdCancel.Visible() ? g.cmdCancel : g.cmdOK.Visible() ? g.cmdOK : g.CmdClose).Click();
+        });
+        command();
+        EXPECT_EQ(seen, expected);
+        EXPECT_EQ(face(), manualAdd) << expected.toStdString();
+    }
+    EXPECT_TRUE(tc.dialogs.shown().empty()) << "a cancelled scan scans nothing";
+}
+
 TEST_F(Scanner, ManualAddThenUpdateKeepsWhatTheUserTyped) {
     song("Song.MP3", 200, {"First", "Band", "", "", 2001, 3});
     song("Long.MP3", 40000);

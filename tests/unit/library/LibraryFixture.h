@@ -1,10 +1,23 @@
 #pragma once
 // The program on fakes, but with the real data control on a library made in the test's own
-// directory (the default name, SonariumData.mdb), attached as the first activation does.
+// directory (the default name, SonariumData.mdb), attached as the first activation does; and
+// the helpers the library's tests share.
+#include <sqlite3.h>
+
 #include "ProgramFixture.h"
 #include "engine/data/SqliteDataControl.h"
 
 namespace sonarium {
+
+// The program started on fakes, for tests that need no library.
+class StartedProgram : public ProgramFixture {
+protected:
+    void SetUp() override {
+        ProgramFixture::SetUp();
+        program().Main();
+        tc.dialogs.clear();
+    }
+};
 
 class LibraryFixture : public ProgramFixture {
 protected:
@@ -16,8 +29,8 @@ protected:
     }
 
     // A record as the scanner would store it, for tests that need a library with content.
-    void addRecord(const QString& dir, const QString& file, const QString& artist = {}, const QString& album = {},
-                   const QString& genre = {}) {
+    void addRecord(const QString& dir, const QString& file, const QString& artist = {},
+                   const QString& album = {}) {
         Recordset& r = data.recordset();
         r.AddNew();
         r.Fields(QStringLiteral("Path\\File")).setValue(dir + u'/' + file + QStringLiteral(".MP3"));
@@ -25,7 +38,6 @@ protected:
         r.Fields(QStringLiteral("File")).setValue(file);
         r.Fields(QStringLiteral("Artist")).setValue(artist);
         r.Fields(QStringLiteral("Album")).setValue(album);
-        r.Fields(QStringLiteral("Genre")).setValue(genre);
         r.Update();
     }
 
@@ -37,7 +49,56 @@ protected:
         addRecord("/m/Pop", "Song D", "Queen", "");
     }
 
+    // A column menu's entry ("" dismisses the menu), on the record at `row` of the view if given.
+    void menu(int column, const char* entry, int row = -1) {
+        if (row >= 0) {
+            data.recordset().MoveFirst();
+            for (int i = 0; i < row; ++i) data.recordset().MoveNext();
+        }
+        tc.dialogs.answerPopup(QString::fromLatin1(entry));
+        form1().imgDown[column].Click();
+    }
+    QString source() const { return data.RecordSource(); }
+    QString current(const char* field) {
+        return data.recordset().Fields(QString::fromLatin1(field)).Value().toString();
+    }
+    // The i-th dialog shown, as "title: text".
+    QString said(std::size_t i) const {
+        return tc.dialogs.shown().at(i).title + ": " + tc.dialogs.shown().at(i).text;
+    }
+
+    // Straight into the library file, behind the data control's back; the view is read again.
+    void sql(const QByteArray& statement) {
+        sqlite3* db = open();
+        EXPECT_EQ(sqlite3_exec(db, statement.constData(), nullptr, nullptr, nullptr), SQLITE_OK)
+            << sqlite3_errmsg(db);
+        sqlite3_close(db);
+        data.Refresh();
+        form1().UpdateRecordCount();
+    }
+    // One column of every record of the library file, in the order they were added.
+    QStringList column(const QString& name) {
+        sqlite3* db = open();
+        sqlite3_stmt* st = nullptr;
+        const QByteArray query = "SELECT \"" + name.toUtf8() + "\" FROM SongData ORDER BY rowid";
+        EXPECT_EQ(sqlite3_prepare_v2(db, query.constData(), -1, &st, nullptr), SQLITE_OK)
+            << query.constData();
+        QStringList out;
+        while (st && sqlite3_step(st) == SQLITE_ROW)
+            out << QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(st, 0)));
+        sqlite3_finalize(st);
+        sqlite3_close(db);
+        return out;
+    }
+
     SqliteDataControl data;
+
+private:
+    sqlite3* open() {
+        sqlite3* db = nullptr;
+        EXPECT_EQ(sqlite3_open(path("SonariumData.mdb").toUtf8().constData(), &db), SQLITE_OK);
+        return db;
+    }
 };
 
 }  // namespace sonarium

@@ -1,9 +1,7 @@
 // The main window's file browser: the names a directory change makes (the picture's name one
-// letter short just below a volume's root), the retry on a drive that isn't ready, and the new
-// directory of a right click.
-#include <QDir>
-
-#include "ProgramFixture.h"
+// letter short just below a volume's root), the retry on a drive that isn't ready in both
+// windows' drive lists, and the new directory of a right click.
+#include "LibraryFixture.h"
 
 using namespace sonarium;
 
@@ -28,15 +26,11 @@ TEST_F(Browser, ADirectoryChangeNamesTheFolderAndItsPicture) {
     EXPECT_EQ(f.CurrentDir, usb + "/Music/");
     EXPECT_EQ(f.LastDir, "Musi") << "just below a root the name loses its last letter";
     EXPECT_EQ(f.Fillist.Path(), usb + "/Music");
-    const QStringList tries = tc.pictures.calls().filter(usb);
-    EXPECT_EQ(tries.mid(0, 3), QStringList({"load(" + usb + "/Music/Musi.GIF)", "load(" + usb + "/Music/Musi.BMP)",
-                                            "load(" + usb + "/Music/Musi.JPG)"}));
-
+    EXPECT_EQ(tc.pictures.calls().filter(usb).first(), "load(" + usb + "/Music/Musi.GIF)");
     f.Dir1.setPath(usb + "/Music/Jazz");
     EXPECT_EQ(f.LastDir, "Jazz");
     f.Dir1.setPath(usb);
     EXPECT_EQ(f.LastDir, "");
-    EXPECT_EQ(f.CurrentDir, usb + "/");
 
     // During a scan only the hidden file list follows.
     f.SearchRunning = true;
@@ -45,19 +39,25 @@ TEST_F(Browser, ADirectoryChangeNamesTheFolderAndItsPicture) {
     EXPECT_EQ(f.Fillist.Path(), usb + "/Music");
 }
 
+// In the main window and in the scan dialog alike: asked until the user gives up, then the
+// drive list goes back to the drive in use and the directory stays.
 TEST_F(Browser, ADriveThatIsNotReadyIsAskedAboutUntilTheUserGivesUp) {
-    Form1& f = form1();
-    const QString before = f.Dir1.Path();
     tc.volumes.setReady(usb, false);
-    tc.dialogs.answer(MsgResult::Yes).answer(MsgResult::No);
-    f.Drive1.setDrive(usb);
     const QString text = "Not ready reading Drive " + usb.toUpper() + " [STICK] Retry?";
-    ASSERT_EQ(tc.dialogs.texts(), QStringList({text, text}));
-    EXPECT_EQ(tc.dialogs.shown()[0].title, "Change Drive");
-    EXPECT_EQ(tc.dialogs.shown()[0].buttons, MsgButtons::YesNo);
-    EXPECT_EQ(f.Drive1.Drive(), f.Drive1.List(0)) << "No sends the drive list back to the drive in use";
-    EXPECT_EQ(f.Dir1.Path(), before);
-    EXPECT_EQ(f.MousePointer(), DefaultPointer);
+    for (auto [drive, folders] :
+         {std::pair{&form1().Drive1, &form1().Dir1}, {&general().Drive1, &general().Dir1}}) {
+        const QString before = folders->Path();
+        tc.dialogs.clear();
+        tc.dialogs.answer(MsgResult::Yes).answer(MsgResult::No);
+        drive->setDrive(usb);
+        ASSERT_EQ(tc.dialogs.texts(), QStringList({text, text}));
+        EXPECT_EQ(tc.dialogs.shown()[0].title, "Change Drive");
+        EXPECT_EQ(tc.dialogs.shown()[0].buttons, MsgButtons::YesNo);
+        EXPECT_EQ(drive->Drive(), drive->List(0));
+        EXPECT_EQ(folders->Path(), before);
+    }
+    EXPECT_EQ(general().File1.Path(), general().Dir1.Path());
+    EXPECT_EQ(form1().MousePointer(), DefaultPointer);
 }
 
 TEST_F(Browser, ARightClickMakesANewDirectoryBelowTheOneShown) {
@@ -73,7 +73,6 @@ TEST_F(Browser, ARightClickMakesANewDirectoryBelowTheOneShown) {
     EXPECT_TRUE(QDir(usb + "/Music/Blues").exists());
     EXPECT_EQ(f.CurrentDir, usb + "/Music/Blues/");
 
-    tc.dialogs.clear();
     tc.dialogs.answerInput("a/b").answer(MsgResult::OK).answer(MsgResult::OK);
     f.Dir1.MouseDown(RightButton, 0, 0, 0);
     EXPECT_EQ(tc.dialogs.texts().last(), "Cannot create directory - Path/File access error");

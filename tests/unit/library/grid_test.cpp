@@ -1,6 +1,6 @@
 // The library grid on a real library: the order and filter statements with their labels and
 // column buttons, search, typing rules and the tag written back, the genre list, the photo of
-// the current record, and the delete commands.
+// the current record, the delete commands, and how the grid reads and follows the record set.
 #include "LibraryFixture.h"
 
 using namespace sonarium;
@@ -15,13 +15,18 @@ protected:
         form1().imgButon[1].Click();  // by File, as the first activation leaves it
         tc.dialogs.clear();
     }
-    bool shows(int i, const Image& picture) { return form1().imgButon[i].picture().sameAs(picture.picture()); }
-    void menu(int column, const char* entry) {
-        tc.dialogs.answerPopup(QString::fromLatin1(entry));
-        form1().imgDown[column].Click();
+    // The filter label, the count, and the column buttons that stand out: "=" the order's,
+    // "*" a filter's.
+    QString labels() {
+        Form1& f = form1();
+        QString out = f.lblFilter.Caption() + ", " + f.lblRecords.Caption() + ",";
+        for (int i = 0; i < 15; ++i) {
+            const Picture& p = f.imgButon[i].picture();
+            if (p.sameAs(f.Button.picture()) || p.sameAs(f.ButtonBlue.picture()))
+                out += QStringLiteral(" %1%2").arg(i).arg(p.sameAs(f.Button.picture()) ? '=' : '*');
+        }
+        return out;
     }
-    QString source() const { return data.RecordSource(); }
-    QString current(const char* field) { return data.recordset().Fields(QString::fromLatin1(field)).Value().toString(); }
     // The user picks a cell, as the view does.
     void pick(int row, int col) {
         form1().DBGrid1.sync();
@@ -38,127 +43,67 @@ TEST_F(Grid, OrderAndFilterStatementsWithTheirLabelsAndButtons) {
     Form1& f = form1();
     f.imgButon[3].Click();
     EXPECT_EQ(source(), "Select * From SongData Order By [Artist]");
-    EXPECT_EQ(f.lblOrder.Caption(), "Artist");
-    EXPECT_EQ(f.lblRecords.Caption(), "4");
-    EXPECT_TRUE(shows(3, f.Button));
-    EXPECT_TRUE(shows(1, f.Indent));
-
+    EXPECT_EQ(labels(), "Off, 4, 3=");
     menu(4, "mnuFilter");  // on Abba's album, the first record in artist order
-    EXPECT_EQ(f.mnuSearch.Caption(), "Search for Album");
-    EXPECT_EQ(f.mnuAdd.Caption(), "Add selected Album to 'Auto-Queue' criteria");
-    EXPECT_EQ(f.mnuExclude.Caption(), "Exclude selected Album from 'Auto-Queue' criteria");
-    EXPECT_FALSE(f.mnuExclude.Enabled());
     EXPECT_EQ(source(), "Select * From SongData Where [Album] Like \"Gold\" Order By [Artist]");
-    EXPECT_EQ(f.lblFilter.Caption(), "Album - Gold");
-    EXPECT_EQ(f.lblRecords.Caption(), "2");
-    EXPECT_TRUE(shows(4, f.ButtonBlue) && shows(3, f.Button));
-
-    // The same column's menu offers the removal only.
-    menu(4, "mnuFilter");
+    EXPECT_EQ(labels(), "Album - Gold, 2, 3= 4*");
+    menu(4, "mnuFilter");  // the same column's menu offers the removal only
     EXPECT_FALSE(f.mnuFilterAutoSet.Enabled());
     EXPECT_EQ(source(), "Select * From SongData Order By [Artist]");
-    EXPECT_EQ(f.lblFilter.Caption(), "Off");
-    EXPECT_EQ(f.lblRecords.Caption(), "4");
-    EXPECT_TRUE(shows(4, f.Indent) && shows(3, f.Button));
+    EXPECT_EQ(labels(), "Off, 4, 3=");
 
     // A filter on Path, then one on Album: the second replaces the first, and its loop from 1
     // leaves imgButon(0) blue.
     menu(0, "mnuFilter");
     EXPECT_EQ(source(), "Select * From SongData Where [Path] Like \"/m/Rock\" Order By [Artist]");
     menu(4, "mnuFilter");
-    EXPECT_EQ(f.mnuFilter.Caption(), "Filter using selected Album");
-    EXPECT_EQ(source(), "Select * From SongData Where [Album] Like \"Gold\" Order By [Artist]");
-    EXPECT_TRUE(shows(0, f.ButtonBlue) && shows(4, f.ButtonBlue));
-
+    EXPECT_EQ(labels(), "Album - Gold, 2, 0* 3= 4*");
     // A blue button frees its column; only a second click orders by it, and resets 0 to 13.
     f.imgButon[4].Click();
-    EXPECT_FALSE(f.FilterOn);
     EXPECT_EQ(source(), "Select * From SongData Order By [Artist]");
-    EXPECT_TRUE(shows(4, f.Indent));
+    EXPECT_EQ(labels(), "Off, 4, 0* 3=");
     f.imgButon[4].Click();
     EXPECT_EQ(source(), "Select * From SongData Order By [Album]");
-    EXPECT_TRUE(shows(4, f.Button) && shows(0, f.Indent) && shows(3, f.Indent));
+    EXPECT_EQ(labels(), "Off, 4, 4=");
 }
 
-TEST_F(Grid, AMenuLeftUnusedMovesTheColumnSoTheBlueButtonRestoresTheWrongNeighbour) {
-    Form1& f = form1();
-    f.imgButon[3].Click();
-    menu(3, "mnuFilter");
-    f.imgButon[3].Click();  // the usual case: the ordering column shows its button again
-    EXPECT_TRUE(shows(3, f.Button));
-
-    menu(3, "mnuFilter");
-    menu(5, "");  // opened on Comment and dismissed
-    EXPECT_EQ(f.MenuColumn, 5);
-    f.imgButon[3].Click();
-    EXPECT_EQ(source(), "Select * From SongData Order By [Artist]");
-    EXPECT_TRUE(shows(3, f.Indent)) << "the grid is still in artist order, but its button no longer says so";
-}
-
-TEST_F(Grid, FiltersOnEmptyAndNullCellsAndOnAValueWithAQuote) {
-    Form1& f = form1();
+TEST_F(Grid, FiltersOnAnEmptyCellAndOnAValueWithAQuote) {
     pick(3, 4);  // Song D has an empty album
     menu(4, "mnuFilter");
     EXPECT_EQ(source(), "Select * From SongData Where [Album] Like \"\" Order By [File]");
-    EXPECT_EQ(f.lblRecords.Caption(), "1");
-    EXPECT_EQ(f.lblFilter.Caption(), "Album - ");
+    EXPECT_EQ(labels(), "Album - , 1, 1= 4*");
     menu(4, "mnuFilter");
-
-    // Tempo was never set: the empty pattern finds nothing, and the label still names the field.
-    menu(9, "mnuFilter");
-    EXPECT_EQ(f.lblRecords.Caption(), "0");
-    EXPECT_EQ(f.lblFilter.Caption(), "Tempo - ");
-    menu(9, "mnuFilter");
 
     // A double quote breaks the statement: the view stays, with no message.
     addRecord("/m/Pop", "Song E", "Prince", "12\" Mix");
-    f.imgButon[1].Click();
+    form1().imgButon[1].Click();
     pick(4, 4);
     menu(4, "mnuFilter");
     EXPECT_EQ(source(), "Select * From SongData Where [Album] Like \"12\" Mix\" Order By [File]");
-    EXPECT_EQ(f.lblRecords.Caption(), "5");
-    EXPECT_TRUE(f.FilterOn);
+    EXPECT_EQ(form1().lblRecords.Caption(), "5");
     EXPECT_EQ(tc.dialogs.shown().back().kind, ScriptedDialogs::Kind::Popup);
 }
 
 TEST_F(Grid, SearchMovesToTheFirstMatchOrSaysThereIsNone) {
-    Form1& f = form1();
-    tc.dialogs.answerPopup("mnuSearch").answerInput("lon");
-    f.imgDown[3].Click();
-    EXPECT_EQ(tc.dialogs.shown()[1].text, "Enter Artist to search for.");
-    EXPECT_EQ(tc.dialogs.shown()[1].title, "Search");
+    // A quote breaks the find; it passes without a word. No match says so. The record stays.
+    tc.dialogs.setAutoAnswerOk(true);
+    for (const char* artist : {"lon", "O'Brien", "Zappa"}) {
+        tc.dialogs.answerPopup("mnuSearch").answerInput(artist);
+        form1().imgDown[3].Click();
+    }
+    EXPECT_EQ(said(1), "Search: Enter Artist to search for.");
+    ASSERT_EQ(tc.dialogs.shown().size(), 7u);
+    EXPECT_EQ(tc.dialogs.shown()[6].text, "No Artist found");
     EXPECT_EQ(current("Artist"), "Blondie");
-    EXPECT_EQ(f.lblRecords.Caption(), "4") << "a find, not a filter";
-
-    // A quote breaks the find; it passes without a word, and the record stays.
-    tc.dialogs.clear();
-    tc.dialogs.answerPopup("mnuSearch").answerInput("O'Brien");
-    f.imgDown[3].Click();
-    EXPECT_EQ(tc.dialogs.shown().size(), 2u);
-    EXPECT_EQ(current("Artist"), "Blondie");
-
-    tc.dialogs.clear();
-    tc.dialogs.answerPopup("mnuSearch").answerInput("Zappa").answer(MsgResult::OK);
-    f.imgDown[3].Click();
-    ASSERT_EQ(tc.dialogs.shown().size(), 3u);
-    EXPECT_EQ(tc.dialogs.shown()[2].text, "No Artist found");
-    EXPECT_EQ(tc.dialogs.shown()[2].icon, MsgIcon::None);
-    EXPECT_EQ(current("Artist"), "Blondie");
+    EXPECT_EQ(form1().lblRecords.Caption(), "4") << "a find, not a filter";
 }
 
 TEST_F(Grid, TypingRulesAndTheLockOnTheSongInThePlayer) {
-    Form1& f = form1();
-    DataGrid& g = f.DBGrid1;
+    DataGrid& g = form1().DBGrid1;
     pick(1, 8);  // Year of Song B, four characters at most
-    type("1999");
-    EXPECT_EQ(type("5"), 0);
-    EXPECT_EQ(g.Text(), "1999");
+    EXPECT_EQ(type("19995"), 0);
     EXPECT_EQ(type(QString(QChar(8))), 8);
     EXPECT_EQ(g.Text(), "199");
-    g.cancelEdit();
-    pick(1, 15);  // Info has no width
-    type(QString(40, 'x'));
-    EXPECT_EQ(g.Text().size(), 40);
     g.cancelEdit();
     for (int col : {0, 6}) {
         pick(1, col);
@@ -167,216 +112,128 @@ TEST_F(Grid, TypingRulesAndTheLockOnTheSongInThePlayer) {
 
     // The song in the player is locked while the queue has a selected row.
     tc.mp3.addFile("/m/Rock/Song B.MP3", 100, 2.6f);
-    f.AddToQueue("Song B", "/m/Rock/");
-    f.lstSongs.setListIndex(0);
+    form1().AddToQueue("Song B", "/m/Rock/");
+    form1().lstSongs.setListIndex(0);
     M().SongFile = "/M/ROCK/SONG B.mp3";  // compared in upper case
     pick(1, 2);
-    tc.dialogs.clear();
     tc.dialogs.answer(MsgResult::OK);
     EXPECT_EQ(type("a"), 0);
-    ASSERT_EQ(tc.dialogs.shown().size(), 1u);
-    EXPECT_EQ(tc.dialogs.shown()[0].text, "Cannot edit song selected in song queue");
-    EXPECT_EQ(tc.dialogs.shown()[0].title, "Edit");
-    EXPECT_EQ(tc.dialogs.shown()[0].icon, MsgIcon::Information);
-    f.lstSongs.setListIndex(-1);
+    EXPECT_EQ(said(0), "Edit: Cannot edit song selected in song queue");
+    form1().lstSongs.setListIndex(-1);
     EXPECT_EQ(type("a"), 'a');
 }
 
-TEST_F(Grid, ACommittedCellWritesTheTagThroughTheSecondPlayer) {
+TEST_F(Grid, ACommittedCellOrAPickedGenreWritesTheTagThroughAPlayer) {
     Form1& f = form1();
     DataGrid& g = f.DBGrid1;
-    pick(0, 2);
-    type("Night");
-    tc.mp32.clearCalls();
-    g.commitEdit();
-    EXPECT_EQ(tc.mp32.calls(),
+    const auto commit = [&](int col, const QString& keys) {
+        pick(0, col);
+        type(keys);
+        tc.mp32.clearCalls();
+        g.commitEdit();
+        return tc.mp32.calls();
+    };
+    EXPECT_EQ(commit(2, "Night"),
               QStringList({"Close", "Open(/m/Rock/Song A.MP3,)", "SetTagTitle(Night)", "Close", "WriteTag"}));
     EXPECT_EQ(current("Song Title"), "Night");
-
     // A year that is no number: the text stays in the cell, the tag is written with nothing set.
-    pick(0, 8);
-    type("19x");
-    tc.mp32.clearCalls();
-    g.commitEdit();
-    EXPECT_EQ(tc.mp32.calls(), QStringList({"Close", "Open(/m/Rock/Song A.MP3,)", "Close", "WriteTag"}));
+    EXPECT_EQ(commit(8, "19x"), QStringList({"Close", "Open(/m/Rock/Song A.MP3,)", "Close", "WriteTag"}));
     EXPECT_EQ(f.Caption(), "Type mismatch");
     EXPECT_EQ(current("Year"), "19x");
-
     // Database-only columns, and an emptied title, leave the file alone.
-    pick(0, 9);
-    type("Fast");
-    tc.mp32.clearCalls();
-    g.commitEdit();
-    pick(0, 2);
-    type(QString(5, QChar(8)));
-    g.commitEdit();
-    EXPECT_TRUE(tc.mp32.calls().isEmpty());
-    EXPECT_EQ(current("Tempo"), "Fast");
+    EXPECT_TRUE(commit(9, "Fast").isEmpty());
+    EXPECT_TRUE(commit(2, QString(5, QChar(8))).isEmpty());
     EXPECT_TRUE(data.recordset().Fields(QStringLiteral("Song Title")).Value().isNull());
-}
 
-TEST_F(Grid, TheGenreListOpensUpwardOverTheRowAndWritesThroughThePlayer) {
-    Form1& f = form1();
-    DataGrid& g = f.DBGrid1;
+    // The genre list opens upward over the row, writes through the first player and closes.
     pick(2, 6);
     g.ButtonClick(6);
-    ASSERT_TRUE(f.ListGen.Visible());
-    EXPECT_EQ(f.ListGen.Width(), g.Column(6).width);
-    EXPECT_EQ(f.ListGen.Left(), g.Left() + g.ColumnLeft(6));
     EXPECT_EQ(f.ListGen.Top(), g.Top() + g.HeaderHeight() + 2 * g.RowHeight() - f.ListGen.Height());
-    g.ButtonClick(6);
-    EXPECT_FALSE(f.ListGen.Visible()) << "a second press closes it";
-
-    g.ButtonClick(6);
     tc.mp3.clearCalls();
     f.ListGen.setListIndex(17);
     EXPECT_EQ(current("Genre"), "Rock");
     EXPECT_EQ(tc.mp3.calls(),
               QStringList({"Close", "Open(/m/Pop/Song C.MP3,)", "SetTagGenre(17)", "Close", "WriteTag"}));
     EXPECT_FALSE(f.ListGen.Visible());
-
-    g.ButtonClick(6);
-    g.Scroll(1, 0);
-    EXPECT_FALSE(f.ListGen.Visible()) << "a scroll closes it";
 }
 
 TEST_F(Grid, ARowChangeTriesTheFolderPicturesThenTheSongsOwn) {
-    Form1& f = form1();
-    f.DBGrid1.sync();
+    form1().DBGrid1.sync();
     tc.pictures.clearCalls();
     pick(2, 0);
+    // The folder's JPEG is never found under its ".GPG" spelling.
     EXPECT_EQ(tc.pictures.calls(),
               QStringList({"load(/m/Pop/Pop.GIF)", "load(/m/Pop/Pop.BMP)", "load(/m/Pop/Pop.GPG)",
                            "load(/m/Pop/Song C.GIF)", "load(/m/Pop/Song C.BMP)", "load(/m/Pop/Song C.JPG)"}));
-    EXPECT_EQ(f.LastDir, "Pop");
-    EXPECT_TRUE(f.Photo.picture().sameAs(f.imgMpeg3.picture()));
-
-    // The folder's JPEG is never found under its ".GPG" spelling; the song's own one wins.
-    tc.pictures.add("/m/Rock/Rock.JPG", 231, 128);
-    tc.pictures.add("/m/Rock/Song B.JPG", 128, 128);
-    pick(1, 0);
-    EXPECT_EQ(f.Photo.picture().source(), "/m/Rock/Song B.JPG");
-    EXPECT_EQ(f.Photo.Width(), 1920);
-    EXPECT_TRUE(f.Image8.Visible() && f.Photo.Visible());
+    EXPECT_TRUE(form1().Photo.picture().sameAs(form1().imgMpeg3.picture()));
 }
 
 TEST_F(Grid, TheThreeDeletes) {
     Form1& f = form1();
-    // An empty view: nothing is selected.
-    menu(9, "mnuFilter");
-    tc.dialogs.clear();
-    tc.dialogs.answer(MsgResult::OK);
-    f.cmdDeleteLine.Click();
-    EXPECT_EQ(tc.dialogs.texts(), QStringList({"No record selected - click on a line to select"}));
-    EXPECT_EQ(tc.dialogs.shown()[0].title, "Delete Line");
-    f.CmdDeleteFile.Click();
-    EXPECT_EQ(tc.dialogs.shown().size(), 1u) << "no file to offer";
-    menu(9, "mnuFilter");
-
-    tc.dialogs.clear();
     tc.dialogs.answer(MsgResult::Yes);
     f.cmdDeleteLine.Click();
-    EXPECT_EQ(tc.dialogs.shown()[0].text, "Delete selected record from Database?");
-    EXPECT_EQ(tc.dialogs.shown()[0].title, "Delete All");
+    EXPECT_EQ(said(0), "Delete All: Delete selected record from Database?");
     EXPECT_EQ(f.lblRecords.Caption(), "3");
     EXPECT_EQ(current("File"), "Song B");
 
     // The file goes, and its record with it; a file that can't be deleted still loses its record.
     write("Song B.MP3", "ID3");
-    data.recordset().Edit();
-    data.recordset().Fields(QStringLiteral("Path\\File")).setValue(path("Song B.MP3"));
-    data.recordset().Update();
+    sql(("UPDATE SongData SET [Path\\File] = '" + path("Song B.MP3") + "' WHERE File = 'Song B'").toUtf8());
     tc.dialogs.clear();
     tc.dialogs.answer(MsgResult::Cancel).answer(MsgResult::OK).answer(MsgResult::OK);
     f.CmdDeleteFile.Click();
     EXPECT_TRUE(QFile::exists(path("Song B.MP3")));
     f.CmdDeleteFile.Click();
     EXPECT_EQ(tc.dialogs.shown()[1].text, "Permanently remove file " + path("Song B.MP3") + " from disk");
-    EXPECT_EQ(tc.dialogs.shown()[1].buttons, MsgButtons::OKCancel);
     EXPECT_FALSE(QFile::exists(path("Song B.MP3")));
-    EXPECT_EQ(f.lblRecords.Caption(), "2");
     f.CmdDeleteFile.Click();  // /m/Pop/Song C.MP3 isn't there
     EXPECT_EQ(f.lblRecords.Caption(), "1");
 
-    tc.dialogs.answer(MsgResult::Yes);
+    tc.dialogs.answer(MsgResult::Yes).answer(MsgResult::OK);
     f.cmdClearAll.Click();
     EXPECT_EQ(tc.dialogs.shown().back().text, "Delete all records from Database?");
-    EXPECT_EQ(f.RecordTotal, 0);
-    EXPECT_EQ(f.lblRecords.Caption(), "1") << "the label keeps the old count";
     EXPECT_EQ(data.recordset().RecordCount(), 0);
-}
-
-TEST_F(Grid, ScrollsRealignTheColumnButtonsOnceTheyAreOver) {
-    Form1& f = form1();
-    DataGrid& g = f.DBGrid1;
-    const int lastLeft = f.imgButon[14].Left();
-    g.Scroll(0, 300 * TwipsPerPixel);
-    g.setColumnWidth(2, 100 * TwipsPerPixel);
-    EXPECT_TRUE(f.Timer2.Enabled());
-    tc.loop.advance(100);
-    EXPECT_FALSE(f.Timer2.Enabled());
-    for (int i = 0; i < 14; ++i) {
-        EXPECT_EQ(f.imgButon[i].Left(), g.Left() + g.ColumnLeft(i)) << i;
-        EXPECT_EQ(f.imgDown[i].Left(), f.imgButon[i].Left() + 320) << i;
-        EXPECT_EQ(f.imgButon[i].Visible(), f.imgButon[i].Left() > g.Left()) << i;
-    }
-    EXPECT_FALSE(f.imgButon[1].Visible()) << "File lies left of the grid's edge now";
-    EXPECT_TRUE(f.imgButon[3].Visible());
-    EXPECT_EQ(f.imgButon[14].Left(), lastLeft);
+    f.cmdDeleteLine.Click();  // an empty view: nothing is selected, and no file to offer
+    f.CmdDeleteFile.Click();
+    EXPECT_EQ(tc.dialogs.texts().last(), "No record selected - click on a line to select");
 }
 
 // The grid reads rows by walking the record set and coming back, and follows what others do.
 TEST_F(Grid, TheGridReadsWithoutMovingTheRecordAndFollowsTheRecordSet) {
     DataGrid& g = form1().DBGrid1;
     Recordset& r = data.recordset();
-    RecordReader reader(r);
-    r.MoveFirst();
-    r.MovePrevious();  // before the first
-    ASSERT_TRUE(reader.read(0, 4, {1, 3}, 4).has_value());
-    EXPECT_TRUE(r.BOF() && !r.EOF_());
     r.MoveLast();
     r.MoveNext();  // after the last
-    const auto rows = reader.read(2, 10, {1, 3}, 4);
-    ASSERT_TRUE(rows.has_value());
-    EXPECT_EQ(*rows, std::vector<QStringList>({{"Song C", "Blondie"}, {"Song D", "Queen"}}));
+    EXPECT_EQ(RecordReader(r).read(2, 10, {1, 3}, 4),
+              std::vector<QStringList>({{"Song C", "Blondie"}, {"Song D", "Queen"}}));
     EXPECT_TRUE(r.EOF_() && !r.BOF());
-    r.MoveFirst();
-    r.MoveNext();
-    EXPECT_EQ(reader.count(), 4);
-    EXPECT_EQ(r.AbsolutePosition(), 1);
 
     int moves = 0;
     g.onRowColChange = [&] { ++moves; };
+    r.MoveFirst();
+    r.MoveNext();
     g.sync();
-    EXPECT_EQ(g.RowCount(), 4);
-    EXPECT_EQ(g.CellText(3, 1), "Song D");
+    g.sync();
     EXPECT_EQ(g.Row(), 1);
-    EXPECT_EQ(moves, 1);
-    g.sync();
-    EXPECT_EQ(moves, 1) << "nothing changed";
+    EXPECT_EQ(moves, 1) << "the second sync changed nothing";
 
     // An edit made elsewhere in the current record shows; so does a move of the record.
     r.Edit();
     r.Fields(QStringLiteral("Artist")).setValue(QStringLiteral("ABBA"));
     r.Update();
+    r.MoveLast();
     const int values = g.valuesVersion();
     g.sync();
     EXPECT_GT(g.valuesVersion(), values);
     EXPECT_EQ(g.CellText(1, 3), "ABBA");
-    r.MoveLast();
-    g.sync();
     EXPECT_EQ(g.Row(), 3);
-    EXPECT_EQ(moves, 2);
 
     // A new view is read again from its count.
     const int views = g.rowsVersion();
-    tc.dialogs.answerPopup("mnuFilter");
-    form1().imgDown[0].Click();
+    menu(0, "mnuFilter");
     g.sync();
     EXPECT_GT(g.rowsVersion(), views);
     EXPECT_EQ(g.RowCount(), 2);
-    EXPECT_EQ(g.CellText(1, 1), "Song D");
-    EXPECT_EQ(g.CellText(2, 1), "");
 }
 
 }  // namespace

@@ -1,11 +1,9 @@
 // The library scanner and the manual add, on the real library in a temporary directory: the
 // walk's order, what a new file's record holds, the count and its message, a filter in force,
 // a cancel, the 16-bit limit of the record loops, the dialog's faces and the manual update.
-#include <sqlite3.h>
+#include <unistd.h>
 
 #include <random>
-
-#include <unistd.h>
 
 #include "LibraryFixture.h"
 #include "library/KnownPaths.h"
@@ -52,27 +50,25 @@ protected:
         tc.dialogs.clear();
         form1().cmdSearch.Click();
     }
+    // The manual add of the files named, one after the other, then Close.
+    void add(const QStringList& names) {
+        tc.loop.post([=, this] {
+            general().Activate();
+            for (const QString& name : names) {
+                general().File1.setListIndex(general().File1.rows().indexOf(name));
+                general().cmdAdd.Click();
+            }
+            general().CmdClose.Click();
+        });
+        tc.dialogs.clear();
+        form1().CmdDataAdd.Click();
+    }
 
     // The files the player opened, relative to the test's directory.
     QStringList opened() const {
         QStringList out;
         for (const QString& c : tc.mp3.calls())
             if (c.startsWith(u"Open(")) out << c.mid(5).chopped(2).remove(0, dir.path().size() + 1);
-        return out;
-    }
-
-    // One column of every record of the library file, in the order they were added.
-    QStringList column(const QString& name) {
-        sqlite3* db = nullptr;
-        EXPECT_EQ(sqlite3_open(path("SonariumData.mdb").toUtf8().constData(), &db), SQLITE_OK);
-        sqlite3_stmt* st = nullptr;
-        const QByteArray sql = "SELECT \"" + name.toUtf8() + "\" FROM SongData ORDER BY rowid";
-        EXPECT_EQ(sqlite3_prepare_v2(db, sql.constData(), -1, &st, nullptr), SQLITE_OK) << sql.constData();
-        QStringList out;
-        while (st && sqlite3_step(st) == SQLITE_ROW)
-            out << QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(st, 0)));
-        sqlite3_finalize(st);
-        sqlite3_close(db);
         return out;
     }
     QStringList files() { return column(QStringLiteral("File")); }
@@ -82,33 +78,18 @@ TEST_F(Scanner, WalksSubdirectoriesLastToFirstDepthFirstWithFilesLastAndCounts) 
     song("top.MP3", 186.5f, {"Top", "Band", "Album", "Note", 1999, 17});
     song("A/a1.MP3", 187.5f);
     song("A/A1/deep.mp3", 7500.4f);
-    song("A/A2/x.MP3");
-    song("B/b1.MP3");
+    for (const char* name : {"A/A2/x.MP3", "B/b1.MP3"}) song(name);
     scan(dir.path(), true);
     EXPECT_EQ(opened(), QStringList({"B/b1.MP3", "A/A2/x.MP3", "A/A1/deep.mp3", "A/a1.MP3", "top.MP3"}));
-    ASSERT_EQ(tc.dialogs.shown().size(), 1u);
-    EXPECT_EQ(tc.dialogs.shown()[0].text, "5 new titles found");
-    EXPECT_EQ(tc.dialogs.shown()[0].title, "Auto Update");
-    EXPECT_EQ(tc.dialogs.shown()[0].icon, MsgIcon::Information);
+    EXPECT_EQ(said(0), "Auto Update: 5 new titles found");
     EXPECT_EQ(form1().lblRecords.Caption(), "5");
-    EXPECT_FALSE(form1().SearchRunning);
     EXPECT_EQ(form1().Dir1.Path(), dir.path());
 
-    // Every column a file fills; a lower-case extension goes from the name all the same, and
-    // lengths round to the even second on a tie.
+    // A lower-case extension goes from the name all the same; lengths round to the even second
+    // on a tie. (Every column of a tagged file is the real scan's test.)
     EXPECT_EQ(files(), QStringList({"b1", "x", "deep", "a1", "top"}));
-    EXPECT_EQ(column("Path\\File").last(), path("top.MP3"));
-    EXPECT_EQ(column("Path")[2], path("A/A1"));
     EXPECT_EQ(column("Duration"), QStringList({"01:00", "01:00", "125:00", "03:08", "03:06"}));
     EXPECT_EQ(column("Year"), QStringList({"0", "0", "0", "0", "1999"}));
-    // The tag's texts; the genre by the player's own name for the number.
-    for (auto [name, value] : {std::pair{"Song Title", "Top"},
-                               {"Artist", "Band"},
-                               {"Album", "Album"},
-                               {"Comment", "Note"},
-                               {"Genre", "Genre 17"},
-                               {"Tempo", ""}})
-        EXPECT_EQ(column(name).last(), value) << name;
 
     // Again: all known, whatever the case of the name.
     song("B/B1.MP3");  // a second spelling of a known file is the same song
@@ -120,6 +101,7 @@ TEST_F(Scanner, WalksSubdirectoriesLastToFirstDepthFirstWithFilesLastAndCounts) 
     // drive lands there: from any folder the walk is that folder's whole tree.
     scan(path("A"), true);
     EXPECT_EQ(opened(), QStringList({"A/A2/x.MP3", "A/A1/deep.mp3", "A/a1.MP3"}));
+    EXPECT_EQ(form1().CurrentDir, path("A") + u'/');
     // Without sub-directories only the chosen directory's files.
     scan(path("A"), false);
     EXPECT_EQ(opened(), QStringList({"A/a1.MP3"}));
@@ -127,7 +109,7 @@ TEST_F(Scanner, WalksSubdirectoriesLastToFirstDepthFirstWithFilesLastAndCounts) 
 }
 
 TEST_F(Scanner, NamesTooLongForTheirColumnsAndFilesThePlayerCannotOpen) {
-    const QString longName = QString(52, u'n') + ".MP3";          // File over 50
+    const QString longName = QString(52, u'n') + ".MP3";                      // File over 50
     const QString tooLong = QString(100 - dir.path().size(), u'k') + ".MP3";  // key over 100
     song(longName);
     song(tooLong);
@@ -136,39 +118,32 @@ TEST_F(Scanner, NamesTooLongForTheirColumnsAndFilesThePlayerCannotOpen) {
     EXPECT_EQ(tc.dialogs.texts(), QStringList({"3 new titles found"})) << "the refused key is counted too";
     const QStringList keys = column("Path\\File");
     ASSERT_EQ(keys.size(), 2);
-    EXPECT_TRUE(keys.contains(path(longName)));
-    EXPECT_TRUE(keys.contains(path("broken.MP3")));
     const int broken = keys.indexOf(path("broken.MP3"));
+    ASSERT_GE(broken, 0);
     EXPECT_EQ(files()[1 - broken], "") << "a name too long leaves File empty";
     EXPECT_EQ(files()[broken], "broken");
-    EXPECT_EQ(column("Duration")[broken], "00:00");
-    EXPECT_EQ(column("Year")[broken], "0");
 }
 
 // A link back up the tree is followed once, and the walk ends.
 // A directory that can't be read is entered and has nothing in it (root reads it anyway).
 TEST_F(Scanner, ALinkBackUpTheTreeIsNotWalkedAgainAndALockedDirectoryIsPassedOver) {
-    song("A/a.MP3");
-    song("r.MP3");
-    song("A/locked/hidden.MP3");
+    for (const char* name : {"A/a.MP3", "r.MP3", "A/locked/hidden.MP3"}) song(name);
     ASSERT_TRUE(QFile::link(dir.path(), path("A/up")));
     ASSERT_TRUE(QFile::setPermissions(path("A/locked"), QFileDevice::Permissions()));
     scan(dir.path(), true);
-    QFile::setPermissions(path("A/locked"), QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
+    QFile::setPermissions(path("A/locked"),
+                          QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner);
     QStringList expected = {"A/up/r.MP3", "A/a.MP3", "r.MP3"};
     if (::geteuid() == 0) expected.insert(1, "A/locked/hidden.MP3");
     EXPECT_EQ(opened(), expected);
     EXPECT_EQ(tc.dialogs.texts(), QStringList({QString::number(expected.size()) + " new titles found"}));
-    EXPECT_EQ(form1().Dir1.Path(), dir.path());
 }
 
 // Only the records in view are known. A file outside the filter is new, is refused as a
 // duplicate, and is counted; its name then takes the place of the last known one, so that the
 // file behind that name is new to the scan as well.
 TEST_F(Scanner, AFilterInForceCountsDuplicatesThatAreNotStored) {
-    song("d1/k.MP3");
-    song("d2/o.MP3");
-    song("new.MP3");
+    for (const char* name : {"d1/k.MP3", "d2/o.MP3", "new.MP3"}) song(name);
     addRecord(path("d1"), "k", "Keep");
     addRecord(path("d2"), "o", "Other");
     data.setRecordSource(QStringLiteral("Select * From SongData Where [Artist] Like \"Keep*\""));
@@ -180,22 +155,17 @@ TEST_F(Scanner, AFilterInForceCountsDuplicatesThatAreNotStored) {
     EXPECT_EQ(tc.dialogs.texts(), QStringList({"3 new titles found"}));
     EXPECT_EQ(files(), QStringList({"k", "o", "new"}));
     // The grid comes back in its order, without its filter.
-    EXPECT_EQ(data.RecordSource(), "Select * From SongData Order By [File]");
+    EXPECT_EQ(source(), "Select * From SongData Order By [File]");
     EXPECT_EQ(form1().lblRecords.Caption(), "3");
 }
 
 TEST_F(Scanner, CancelStopsTheWalkAndKeepsWhatWasAdded) {
-    song("A/a.MP3");
-    song("B/B1/b1.MP3");
-    song("B/b.MP3");
-    song("C/c.MP3");
-    song("r.MP3");
+    for (const char* name : {"A/a.MP3", "B/B1/b1.MP3", "B/b.MP3", "C/c.MP3", "r.MP3"}) song(name);
     // Deliveries: the start, C, B, B1. Cancelled on entering B1: B returns at once, and the
     // start leaves its loop and reads the files of where the list was left, B1.
     scan(dir.path(), true, 4);
     EXPECT_EQ(opened(), QStringList({"C/c.MP3", "B/B1/b1.MP3"}));
     EXPECT_EQ(tc.dialogs.texts(), QStringList({"2 new titles found"}));
-    EXPECT_EQ(files(), QStringList({"c", "b1"}));
     EXPECT_FALSE(form1().SearchRunning);
 
     // Cancelled on entering the first directory: nothing more.
@@ -207,135 +177,69 @@ TEST_F(Scanner, CancelStopsTheWalkAndKeepsWhatWasAdded) {
 // Record loops count in 16 bits: past 32767 records nothing is found, every file is new, and
 // the library refuses the duplicates.
 TEST_F(Scanner, ALibraryPastTheRecordLoopsRangeKnowsNothing) {
-    const QString known = song("known.MP3");
-    auto fill = [&](int from, int to) {
-        sqlite3* db = nullptr;
-        ASSERT_EQ(sqlite3_open(path("SonariumData.mdb").toUtf8().constData(), &db), SQLITE_OK);
-        sqlite3_exec(db, "PRAGMA journal_mode=OFF; PRAGMA synchronous=OFF; PRAGMA cache_size=-64000; BEGIN", nullptr, nullptr, nullptr);
-        sqlite3_stmt* st = nullptr;
-        sqlite3_prepare_v2(db, "INSERT INTO SongData ([Path\\File]) VALUES (?1)", -1, &st, nullptr);
-        for (int i = from; i < to; ++i) {
-            const QByteArray key = i == 0 ? known.toUtf8() : QByteArray("/x/") + QByteArray::number(i) + ".MP3";
-            sqlite3_bind_text(st, 1, key.constData(), int(key.size()), SQLITE_TRANSIENT);
-            sqlite3_step(st);
-            sqlite3_reset(st);
-        }
-        sqlite3_finalize(st);
-        sqlite3_exec(db, "COMMIT", nullptr, nullptr, nullptr);
-        sqlite3_close(db);
-        data.Refresh();
-        form1().UpdateRecordCount();
-    };
-    fill(0, 32767);
+    song("known.MP3");
+    const QByteArray known = path("known.MP3").toUtf8();
+    sql("INSERT INTO SongData ([Path\\File]) VALUES ('" + known +
+        "');"
+        "INSERT INTO SongData ([Path\\File]) WITH RECURSIVE n(i) AS (SELECT 1 UNION ALL SELECT i + 1 FROM n "
+        "WHERE i < 32766) SELECT '/x/' || i || '.MP3' FROM n");
     scan(dir.path(), false);
     EXPECT_EQ(tc.dialogs.texts(), QStringList({"0 new titles found"}));
-    fill(32767, 32768);
+    sql("INSERT INTO SongData ([Path\\File]) VALUES ('/x/32767.MP3')");
     scan(dir.path(), false);
     EXPECT_EQ(tc.dialogs.texts(), QStringList({"1 new titles found"}));
     EXPECT_EQ(form1().lblRecords.Caption(), "32768");
-
-    tc.loop.post([this] {
-        general().Activate();
-        general().File1.setListIndex(general().File1.rows().indexOf("known.MP3"));
-        general().cmdAdd.Click();
-        general().CmdClose.Click();
-    });
-    tc.dialogs.clear();
-    form1().CmdDataAdd.Click();
+    add({"known.MP3"});
     EXPECT_EQ(tc.dialogs.texts(), QStringList({"File Added"})) << "not found, and refused as a duplicate";
 }
 
-TEST_F(Scanner, TheScanFaceAndTheDialogsAnswers) {
+// Each command shows its face of the shared dialog, and closing puts back the design's (the
+// manual add face).
+TEST_F(Scanner, EachCommandShowsItsFaceOfTheDialog) {
     FrmGeneral& g = general();
-    QDir().mkpath(path("Music"));
-    bool seen = false;
-    tc.loop.post([&] {
-        seen = g.Visible() && g.Modal() && g.Drive1.Visible() && g.Dir1.Visible() && g.lblStartFrom.Visible() &&
-               g.cmdOK.Visible() && g.cmdCancel.Visible() && !g.cmdAdd.Visible() && !g.CmdClose.Visible() &&
-               !g.File1.Visible() && !g.Label1.Visible() && g.chkSubs.Visible();
-        g.Activate();
-        EXPECT_EQ(g.Dir1.Path(), dir.path()) << "the dialog starts where the main window is";
-        g.Dir1.setPath(path("Music"));
-        g.cmdCancel.Click();
-    });
-    form1().cmdSearch.Click();
-    EXPECT_TRUE(seen);
-    EXPECT_TRUE(tc.dialogs.shown().empty()) << "a cancelled dialog scans nothing";
-    EXPECT_FALSE(M().DialogAccepted);
-    EXPECT_EQ(form1().Dir1.Path(), dir.path());
-    // Back to the design: the add face.
-    EXPECT_TRUE(g.File1.Visible() && g.Label1.Visible() && g.cmdAdd.Visible() && g.CmdClose.Visible());
-    EXPECT_FALSE(g.lblStartFrom.Visible() || g.cmdOK.Visible() || g.cmdCancel.Visible());
-
-    // OK hands the directory and the sub-directory choice to the main window.
-    scan(path("Music"), true);
-    EXPECT_TRUE(M().DialogAccepted);
-    EXPECT_TRUE(M().IncludeSubDirs);
-    EXPECT_EQ(form1().Dir1.Path(), path("Music"));
-    EXPECT_EQ(form1().CurrentDir, path("Music") + u'/');
-    EXPECT_EQ(tc.dialogs.texts(), QStringList({"0 new titles found"}));
-
-    // A drive that isn't ready is asked about; on No the lists go back to the drive in use, at
-    // its current directory.
-    const QString usb = path("usb");
-    QDir().mkpath(usb);
-    tc.volumes.add(usb, "USB", false);
-    g.Drive1.Refresh();
-    tc.dialogs.clear();
-    tc.dialogs.answer(MsgResult::Yes).answer(MsgResult::No);
-    g.Drive1.setDrive(usb);
-    const QString text = "Not ready reading Drive " + usb.toUpper() + " [USB] Retry?";
-    EXPECT_EQ(tc.dialogs.texts(), QStringList({text, text}));
-    EXPECT_EQ(tc.dialogs.shown()[0].title, "Change Drive");
-    EXPECT_EQ(g.Drive1.Drive(), g.Drive1.List(0));
-    EXPECT_EQ(g.Dir1.Path(), path("Music"));
-    EXPECT_EQ(g.File1.Path(), path("Music"));
+    const auto face = [&] {
+        QStringList shown;
+        for (Control* c : g.allControls())
+            if (c->Visible() && c != &g.lblTitle && c != &g.lblVersion && c != &g.lblTagline)
+                shown << c->Name();
+        return shown.join(' ');
+    };
+    const QString manualAdd = "Label1 File1 Drive1 Dir1 chkSubs lblSubs cmdAdd CmdClose";
+    Form1& f = form1();
+    const std::pair<std::function<void()>, QString> cases[] = {
+        {[&] { f.cmdSearch.Click(); }, "lblStartFrom Drive1 Dir1 chkSubs lblSubs cmdOK cmdCancel"},
+        {[&] { f.mnuViewCriteria.Click(); }, "lblAutoSet List1 chkSubs lblSubs cmdOK"},
+        {[&] { f.mnuSelectSkin.Click(); }, "lblStartFrom Drive1 Dir1 cmdOK cmdCancel"},
+        {[&] { f.CmdDataAdd.Click(); }, manualAdd},
+    };
+    for (const auto& [command, expected] : cases) {
+        QString seen;
+        tc.loop.post([&] {
+            seen = face();
+            EXPECT_TRUE(g.Modal()) << expected.toStdString();
+            (g.cmdCancel.Visible() ? g.cmdCancel : g.cmdOK.Visible() ? g.cmdOK : g.CmdClose).Click();
+        });
+        command();
+        EXPECT_EQ(seen, expected);
+        EXPECT_EQ(face(), manualAdd) << expected.toStdString();
+    }
+    EXPECT_TRUE(tc.dialogs.shown().empty()) << "a cancelled scan scans nothing";
 }
 
 TEST_F(Scanner, ManualAddThenUpdateKeepsWhatTheUserTyped) {
-    FrmGeneral& g = general();
     song("Song.MP3", 200, {"First", "Band", "", "", 2001, 3});
     song("Long.MP3", 40000);
-    const auto pick = [&](const QString& name) { g.File1.setListIndex(g.File1.rows().indexOf(name)); };
-    tc.loop.post([&] {
-        EXPECT_TRUE(g.File1.Visible() && g.cmdAdd.Visible() && !g.cmdOK.Visible() && !g.lblStartFrom.Visible());
-        g.Activate();
-        g.cmdAdd.Click();  // nothing picked yet
-        pick("Song.MP3");
-        g.cmdAdd.Click();
-        pick("Long.MP3");
-        g.cmdAdd.Click();
-        EXPECT_TRUE(g.Visible()) << "the dialog stays for the next file";
-        g.CmdClose.Click();
-    });
-    form1().CmdDataAdd.Click();
-    EXPECT_FALSE(g.Visible());
+    add({"", "Song.MP3", "Long.MP3"});  // nothing picked at first
     EXPECT_EQ(tc.dialogs.texts(), QStringList({"No file selected", "File Added", "File Added"}));
-    EXPECT_EQ(tc.dialogs.shown()[0].title, "Add/Update");
-    EXPECT_EQ(tc.dialogs.shown()[0].icon, MsgIcon::Exclamation);
-    EXPECT_EQ(tc.dialogs.shown()[1].title, "Manual Update");
-    EXPECT_EQ(tc.dialogs.shown()[1].icon, MsgIcon::Information);
+    EXPECT_EQ(said(1), "Manual Update: File Added");
     EXPECT_EQ(column("Duration"), QStringList({"03:20", "00:00"})) << "a length past 16 bits is lost";
     EXPECT_EQ(form1().lblRecords.Caption(), "0") << "the count is not refreshed";
 
     // The user types a tempo and a title; the tag changes; the update takes the tag's texts
     // and leaves the tempo.
-    form1().UpdateRecordCount();
-    Recordset& r = data.recordset();
-    r.MoveFirst();
-    r.Edit();
-    r.Fields(QStringLiteral("Tempo")).setValue(QStringLiteral("Slow"));
-    r.Fields(QStringLiteral("Song Title")).setValue(QStringLiteral("Typed"));
-    r.Update();
+    sql("UPDATE SongData SET Tempo = 'Slow', \"Song Title\" = 'Typed' WHERE File = 'Song'");
     tc.mp3.addFile(path("Song.MP3"), 100, 200, 128, 44100, 0, {"Second", "Band", "", "", 2002, 3});
-    tc.dialogs.clear();
-    tc.loop.post([&] {
-        g.Activate();
-        pick("Song.MP3");
-        g.cmdAdd.Click();
-        g.CmdClose.Click();
-    });
-    form1().CmdDataAdd.Click();
+    add({"Song.MP3"});
     EXPECT_EQ(tc.dialogs.texts(), QStringList({"File Updated"}));
     EXPECT_EQ(column("Song Title"), QStringList({"Second", ""}));
     EXPECT_EQ(column("Year"), QStringList({"2002", "0"}));
@@ -355,20 +259,16 @@ TEST(ScanKnownPaths, AnswerAsTheLinearUpperCaseSearch) {
         return false;
     };
     for (int round = 0; round < 3000; ++round) {
-        const int what = int(rng() % 10);
+        const int what = int(rng() % 10), at = int(rng() % 8) - 1;
+        const QString name = names[int(rng() % names.size())];
         if (what == 0) {
-            const int last = int(rng() % 8) - 1;
-            known.resize(last);
-            model.resize(size_t(std::max(last + 1, 0)));
-        } else if (what < 6 && !model.empty()) {
-            const int at = int(rng() % model.size());
-            const QString name = names[int(rng() % names.size())];
+            known.resize(at);
+            model.resize(size_t(std::max(at + 1, 0)));
+        } else if (what < 6 && at >= 0 && at < int(model.size())) {
             known.set(at, name);
             model[size_t(at)] = name;
         } else {
-            const QString name = names[int(rng() % names.size())];
-            const int limit = int(rng() % 10);
-            ASSERT_EQ(known.contains(name, limit), linear(name, limit)) << "round " << round;
+            ASSERT_EQ(known.contains(name, at + 2), linear(name, at + 2)) << "round " << round;
         }
     }
     EXPECT_THROW(known.set(known.last() + 1, "x"), RuntimeError);

@@ -1,37 +1,30 @@
 // The one reader and writer of the program's text files, against hand-made files.
-#include <QTemporaryDir>
 #include <gtest/gtest.h>
+
+#include <QTemporaryDir>
 
 #include "integration/fixtures/ErrorNumber.h"
 #include "shell/TextFields.h"
 
 using namespace sonarium;
 
-TEST(TextFieldWriter, NumbersCarrySignAndTrailingBlankStringsStandBare) {
+TEST(TextFieldWriter, NumbersCarrySignStringsStandBareAndSaveReplacesTheWholeFile) {
     TextFieldWriter w;
-    w.writeNumber(35);
-    w.writeNumber(0);
-    w.writeNumber(-2);
-    w.writeNumber(3.3);
-    w.writeNumber(0.5);
+    for (double n : {35.0, 0.0, -2.0, 3.3, 0.5}) w.writeNumber(n);
     w.writeString("C:/Music, Live/");
     w.writeString("");
     EXPECT_EQ(w.bytes(), QByteArray(" 35 \r\n 0 \r\n-2 \r\n 3.3 \r\n .5 \r\nC:/Music, Live/\r\n\r\n"));
-}
 
-TEST(TextFieldWriter, SaveReplacesTheWholeFileAndFailsClearlyOnAMissingDirectory) {
     QTemporaryDir dir;
     const QString file = dir.filePath("Mixer.dat");
-    TextFieldWriter a;
-    for (int i = 0; i < 10; ++i) a.writeString("long line of old content");
-    a.save(file);
-    TextFieldWriter b;
-    b.writeNumber(1);
-    b.save(file);
+    w.save(file);
+    TextFieldWriter shorter;
+    shorter.writeNumber(1);
+    shorter.save(file);
     QFile f(file);
     ASSERT_TRUE(f.open(QIODevice::ReadOnly));
     EXPECT_EQ(f.readAll(), QByteArray(" 1 \r\n"));
-    EXPECT_THROW(b.save(dir.filePath("missing/Config.dat")), RuntimeError);
+    EXPECT_THROW(shorter.save(dir.filePath("missing/Config.dat")), RuntimeError);
 }
 
 TEST(TextFieldReader, FieldsEndAtCommaOrLineEndAndQuotedFieldsRunToTheirQuote) {
@@ -40,13 +33,15 @@ TEST(TextFieldReader, FieldsEndAtCommaOrLineEndAndQuotedFieldsRunToTheirQuote) {
     EXPECT_EQ(r.readNumber(), 12);
     EXPECT_EQ(r.readString(), "a, quoted");  // what follows the quote up to the comma is passed over
     EXPECT_EQ(r.readString(), "last");
-    EXPECT_EQ(r.readString(), "");           // an empty line reads as an empty string
-    EXPECT_EQ(r.readString(), "tail  ");     // leading blanks skipped, trailing ones kept
-    EXPECT_EQ(r.readNumber(), -7);           // a number also ends at a blank
+    EXPECT_EQ(r.readString(), "");        // an empty line reads as an empty string
+    EXPECT_EQ(r.readString(), "tail  ");  // leading blanks skipped, trailing ones kept
+    EXPECT_EQ(r.readNumber(), -7);        // a number also ends at a blank
     EXPECT_EQ(r.readNumber(), 8);
     EXPECT_EQ(r.readString(), "x");
     EXPECT_TRUE(r.atEnd());
     EXPECT_THROW(r.readString(), RuntimeError);
+    EXPECT_EQ(TextFieldReader(QByteArray("Caf\xe9\r\n")).readString(), QString::fromLatin1("Caf\xe9"))
+        << "bytes that are no UTF-8 still read";
 }
 
 TEST(TextFieldReader, NumbersFollowTheLeadingNumberRule) {
@@ -55,37 +50,18 @@ TEST(TextFieldReader, NumbersFollowTheLeadingNumberRule) {
     EXPECT_EQ(r.readNumber(), 128);  // ends at the blank: "kHz" is the next field
     EXPECT_EQ(r.readString(), "kHz");
     EXPECT_DOUBLE_EQ(r.readNumber(), 44.1);
-    EXPECT_EQ(r.readNumber(), 0);    // empty line
-    EXPECT_EQ(r.readInt16(), 2);     // 1.5 rounds to the even 2
-    EXPECT_EQ(r.readInt16(), 2);     // 2.5 too
+    EXPECT_EQ(r.readNumber(), 0);  // empty line
+    EXPECT_EQ(r.readInt16(), 2);   // 1.5 rounds to the even 2
+    EXPECT_EQ(r.readInt16(), 2);   // 2.5 too
     EXPECT_EQ(errorOf([&] { r.readInt16(); }), RuntimeError::Overflow) << "99999 fits no 16-bit field";
-}
 
-TEST(TextFieldRoundTrip, ACommaInAStoredStringShiftsEveryLaterField) {
-    TextFieldWriter w;
-    w.writeString("/home/me/Rock, Pop");
-    w.writeNumber(3465);
-    TextFieldReader r(w.bytes());
-    EXPECT_EQ(r.readString(), "/home/me/Rock");
-    EXPECT_EQ(r.readString(), "Pop");  // the rest of the line becomes the next field
-    EXPECT_EQ(r.readNumber(), 3465);
-    EXPECT_TRUE(r.atEnd());
-}
-
-TEST(LeadingNumber, TakesSignDigitsPointAndExponent) {
-    EXPECT_EQ(leadingNumber("  -12abc"), -12);
-    EXPECT_EQ(leadingNumber("+4"), 4);
-    EXPECT_EQ(leadingNumber(".5"), 0.5);
-    EXPECT_EQ(leadingNumber("1e3x"), 1000);
-    EXPECT_EQ(leadingNumber("1e"), 1);
-    EXPECT_EQ(leadingNumber("-"), 0);
-    EXPECT_EQ(leadingNumber(""), 0);
-    EXPECT_EQ(roundHalfEven(0.5), 0);
-    EXPECT_EQ(roundHalfEven(1.5), 2);
+    for (auto [text, number] : {std::pair{"  -12abc", -12.0},
+                                {"+4", 4.0},
+                                {".5", 0.5},
+                                {"1e3x", 1000.0},
+                                {"1e", 1.0},
+                                {"-", 0.0},
+                                {"", 0.0}})
+        EXPECT_EQ(leadingNumber(text), number) << text;
     EXPECT_EQ(roundHalfEven(-2.5), -2);
-}
-
-TEST(TextFieldReader, NonUtf8BytesStillRead) {
-    TextFieldReader r(QByteArray("Caf\xe9\r\n"));
-    EXPECT_EQ(r.readString(), QString::fromLatin1("Caf\xe9"));
 }

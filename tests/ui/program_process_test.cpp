@@ -1,29 +1,34 @@
-// The real program as its own process on the silent output, from start to end. A termination
-// signal (a kill, a logout) ends it within five seconds whatever it is doing, here with a song
-// paused and with a modal question open, and both settings files are saved whole.
+// The real program on the silent output, from start to end. A user's close stops the song,
+// saves the settings and ends the event loop with 0. A termination signal (a kill, a logout)
+// ends the program's process within five seconds whatever it is doing, here with a song
+// paused and with a modal question open. Each end leaves both settings files whole.
 #include <gtest/gtest.h>
 #include <signal.h>
 
+#include <QApplication>
 #include <QDataStream>
-#include <QDir>
 #include <QElapsedTimer>
-#include <QFile>
+#include <QLabel>
 #include <QProcess>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 #include <QThread>
+#include <QTimer>
 #include <cmath>
 #include <functional>
 
+#include "app/Application.h"
+#include "ui/MainWindow.h"
+
 namespace {
 
-constexpr int kEndWithinMs = 5000;
+using namespace sonarium;
 
-bool waitFor(const std::function<bool()>& done, int ms = 20000) {
+bool waitFor(const std::function<bool()>& done) {
     QElapsedTimer clock;
     clock.start();
     while (!done()) {
-        if (clock.elapsed() > ms) return false;
+        if (clock.elapsed() > 20000) return false;
         QThread::msleep(20);
     }
     return true;
@@ -34,17 +39,19 @@ QByteArray readAll(const QString& file) {
     return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
 }
 
+bool have(std::initializer_list<const char*> tools) {
+    for (const char* t : tools)
+        if (QStandardPaths::findExecutable(t).isEmpty()) return false;
+    return true;
+}
+
 class ProgramProcess : public ::testing::Test {
 protected:
     void SetUp() override { ASSERT_TRUE(home.isValid()); }
     void TearDown() override {
-        if (program.state() != QProcess::NotRunning) {
-            program.kill();
-            program.waitForFinished();
-        }
-        if (bus.state() != QProcess::NotRunning) {
-            bus.kill();
-            bus.waitForFinished();
+        for (QProcess* p : {&program, &bus}) {
+            p->kill();
+            p->waitForFinished();
         }
     }
 
@@ -54,10 +61,8 @@ protected:
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
         env.insert("QT_QPA_PLATFORM", "offscreen");
         env.insert("SONARIUM_AUDIO", "null");
-        if (busAddress.isEmpty())
-            env.remove("DBUS_SESSION_BUS_ADDRESS");
-        else
-            env.insert("DBUS_SESSION_BUS_ADDRESS", busAddress);
+        env.remove("DBUS_SESSION_BUS_ADDRESS");  // none: no media controls
+        if (!busAddress.isEmpty()) env.insert("DBUS_SESSION_BUS_ADDRESS", busAddress);
         program.setProcessEnvironment(env);
         program.setWorkingDirectory(home.path());
         program.setProcessChannelMode(QProcess::ForwardedChannels);
@@ -68,7 +73,7 @@ protected:
     // Signals the program and reports whether it ended in time, by itself and without error.
     bool endsOn(int sig) {
         ::kill(pid_t(program.processId()), sig);
-        return program.waitForFinished(kEndWithinMs) && program.exitStatus() == QProcess::NormalExit &&
+        return program.waitForFinished(5000) && program.exitStatus() == QProcess::NormalExit &&
                program.exitCode() == 0;
     }
 
@@ -111,6 +116,43 @@ protected:
     QProcess program, bus;
 };
 
+// The program object main() builds, in this process, so that the test can close its window.
+TEST_F(ProgramProcess, ASongPlaysAndTheWindowsCloseEndsTheProgram) {
+    if (!have({"lame"})) GTEST_SKIP() << "lame is needed (tools/common.sh installs it)";
+    ASSERT_TRUE(makeSong(path("Tone.MP3")));
+    const QString was = QDir::currentPath();
+    const QByteArray sessionBus = qgetenv("DBUS_SESSION_BUS_ADDRESS");
+    qunsetenv("DBUS_SESSION_BUS_ADDRESS");
+    qputenv("SONARIUM_AUDIO", "null");
+    QDir::setCurrent(home.path());
+    QApplication::setQuitOnLastWindowClosed(false);
+    QString time;
+    bool closeRefused = false;
+    int exitCode = -1;
+    {
+        Application application({"sonarium", path("Tone.MP3")});
+        MainWindow& window = application.views().main();
+        application.start();
+        // Once the song has played a second, the user closes the window.
+        QTimer poll;
+        QObject::connect(&poll, &QTimer::timeout, [&] {
+            time = window.findChild<QLabel*>("lblTime")->text();  // "length / elapsed"
+            if (window.windowTitle() != "Tone" || !time.contains(" / ") || time.endsWith("00:00")) return;
+            poll.stop();
+            closeRefused = !window.close();  // the program ends the process itself
+        });
+        poll.start(50);
+        QTimer::singleShot(20000, qApp, [] { QCoreApplication::exit(-2); });
+        exitCode = QApplication::exec();
+    }
+    QDir::setCurrent(was);
+    qunsetenv("SONARIUM_AUDIO");
+    if (!sessionBus.isEmpty()) qputenv("DBUS_SESSION_BUS_ADDRESS", sessionBus);
+    EXPECT_EQ(exitCode, 0) << "last time shown: " << time.toStdString();
+    EXPECT_TRUE(closeRefused);
+    expectSettingsSavedWith("Tone");
+}
+
 TEST_F(ProgramProcess, AModalQuestionDoesNotHoldOffTheEnd) {
     // A song that isn't there, named on the command line: "Open failed ... Retry?" stays up.
     start({path("Missing.MP3")});
@@ -122,8 +164,7 @@ TEST_F(ProgramProcess, AModalQuestionDoesNotHoldOffTheEnd) {
 }
 
 TEST_F(ProgramProcess, APausedSongDoesNotHoldOffTheEnd) {
-    if (QStandardPaths::findExecutable("dbus-daemon").isEmpty() || QStandardPaths::findExecutable("playerctl").isEmpty() ||
-        QStandardPaths::findExecutable("lame").isEmpty())
+    if (!have({"dbus-daemon", "playerctl", "lame"}))
         GTEST_SKIP() << "dbus-daemon, playerctl and lame are needed (tools/common.sh installs them)";
     ASSERT_TRUE(makeSong(path("Tone.MP3")));
     bus.start("dbus-daemon", {"--session", "--nofork", "--print-address"});

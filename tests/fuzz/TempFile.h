@@ -1,39 +1,20 @@
 #pragma once
 // One scratch file per fuzzing process, rewritten for every input and removed at exit.
-#include <unistd.h>
-
-#include <QString>
+#include <QDir>
+#include <QTemporaryFile>
 #include <cstdint>
 #include <cstdlib>
-#include <string>
 
 namespace sonarium::fuzz {
 
-class TempFile {
-public:
-    explicit TempFile(const char* suffix) {
-        const char* dir = std::getenv("TMPDIR");
-        std::string pattern = std::string(dir && *dir ? dir : "/tmp") + "/sonarium-fuzz-XXXXXX" + suffix;
-        fd_ = mkstemps(pattern.data(), int(std::char_traits<char>::length(suffix)));
-        if (fd_ < 0) std::abort();
-        name_ = pattern;
-    }
-    ~TempFile() {
-        close(fd_);
-        unlink(name_.c_str());
-    }
-    TempFile(const TempFile&) = delete;
-    TempFile& operator=(const TempFile&) = delete;
-
-    // Replaces the contents with `size` bytes.
-    void fill(const std::uint8_t* data, std::size_t size) {
-        if (ftruncate(fd_, 0) != 0 || pwrite(fd_, data, size, 0) != ssize_t(size)) std::abort();
-    }
-    QString path() const { return QString::fromStdString(name_); }
-
-private:
-    int fd_ = -1;
-    std::string name_;
-};
+// The name of the scratch file, now holding the `size` bytes at `data`.
+inline QString scratchFile(const std::uint8_t* data, std::size_t size) {
+    static QTemporaryFile file(QDir::tempPath() + QStringLiteral("/sonarium-fuzz-XXXXXX.mp3"));
+    if (!file.isOpen() && !file.open()) std::abort();
+    if (!file.resize(0) || !file.seek(0) || file.write(reinterpret_cast<const char*>(data), qint64(size)) != qint64(size) ||
+        !file.flush())
+        std::abort();
+    return file.fileName();
+}
 
 }  // namespace sonarium::fuzz

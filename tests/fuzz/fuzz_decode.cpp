@@ -34,11 +34,8 @@ int decodeRest(Mp3Decoder& d, int limit) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static fuzz::TempFile file(".mp3");
-    file.fill(data, size);
-
     Mp3Decoder d;
-    if (d.open(file.path()) != 0) {
+    if (d.open(fuzz::scratchFile(data, size)) != 0) {
         FUZZ_CHECK(!d.isOpen());
         return 0;
     }

@@ -44,14 +44,12 @@ protected:
         bus = std::make_unique<QDBusConnection>(QDBusConnection::connectToBus(address, "mpris-test"));
         ASSERT_TRUE(bus->isConnected());
 
-        for (const char* name : {"Blue Night", "Harbour Lights"}) {
-            write(QString::fromLatin1(name) + ".MP3", {});
-            tc.mp3.addFile(path(QString::fromLatin1(name) + ".MP3"), 7800, 204.0f);
-        }
         program().Main();
         settle();
-        form1().AddToQueue("Blue Night", dir.path() + "/");
-        form1().AddToQueue("Harbour Lights", dir.path() + "/");
+        for (const QString name : {"Blue Night", "Harbour Lights"}) {
+            tc.mp3.addFile(path(name + ".MP3"), 7800, 204.0f);
+            form1().AddToQueue(name, dir.path() + "/");
+        }
         controls = std::make_unique<MediaControls>(form1());
         service = MprisService::start(*controls, {&main()}, *bus);
         ASSERT_NE(service, nullptr);
@@ -64,16 +62,17 @@ protected:
         WindowsFixture::TearDown();
     }
 
-    QProcessEnvironment clientEnvironment() const {
+    // The desktop's client, on the private bus, against this program.
+    void startClient(QProcess& p, const QStringList& args) {
         QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
         env.insert("DBUS_SESSION_BUS_ADDRESS", address);
-        return env;
+        p.setProcessEnvironment(env);
+        p.start("playerctl", QStringList{"-p", "sonarium"} + args);
     }
-    // One run of the client against this program; its output, trimmed.
+    // One run of the client; its output, trimmed.
     QString playerctl(const QStringList& args) {
         QProcess p;
-        p.setProcessEnvironment(clientEnvironment());
-        p.start("playerctl", QStringList{"-p", "sonarium"} + args);
+        startClient(p, args);
         const bool finished = spinUntil([&] { return p.state() == QProcess::NotRunning; });
         EXPECT_TRUE(finished) << args.join(' ').toStdString();
         EXPECT_EQ(p.exitCode(), 0) << args.join(' ').toStdString() << ": " << p.readAllStandardError().toStdString();
@@ -102,8 +101,7 @@ TEST_F(MprisTest, TheDesktopsClientDrivesTheTransportAndFollowsItsChanges) {
 
     // A client that follows the player hears of a pause made in the window.
     QProcess follower;
-    follower.setProcessEnvironment(clientEnvironment());
-    follower.start("playerctl", {"-p", "sonarium", "--follow", "status"});
+    startClient(follower, {"--follow", "status"});
     QByteArray heard;
     auto hears = [&](const char* line) {
         return spinUntil([&] {

@@ -66,17 +66,19 @@ TEST(QtEventLoopTest, OpenTimerIsNotReenteredWhileOthersRunInsideItsWait) {
 
 TEST(QtEventLoopTest, StopTimerInsideItsOwnHandlerOrWhileItIsOpen) {
     QtEventLoop loop;
+    // Long enough that another tick would show, however slowly a loaded machine delivers them.
+    auto pause = [&] {
+        bool done = false;
+        loop.startTimer(20, [&] { done = true; }, true);
+        loop.waitUntil([&] { return done; });
+    };
     int ticks = 0;
     EventLoop::TimerId self = 0;
     self = loop.startTimer(1, [&] {
         if (++ticks == 2) loop.stopTimer(self);
     });
-    // Wait for the stop first, then long enough that another tick would show, however slowly
-    // a loaded machine delivers the ticks.
     loop.waitUntil([&] { return ticks >= 2; });
-    bool done = false;
-    loop.startTimer(20, [&] { done = true; }, true);
-    loop.waitUntil([&] { return done; });
+    pause();
     EXPECT_EQ(ticks, 2);
 
     // Stopped from a nested handler while its own handler still waits: it never runs again,
@@ -96,9 +98,7 @@ TEST(QtEventLoopTest, StopTimerInsideItsOwnHandlerOrWhileItIsOpen) {
     for (QTimer* t : loop.findChildren<QTimer*>())
         if (t->isActive()) openTimer = t;
     loop.waitUntil([&] { return stoppedWhileOpen; });
-    done = false;
-    loop.startTimer(20, [&] { done = true; }, true);
-    loop.waitUntil([&] { return done; });
+    pause();
     EXPECT_EQ(openRuns, 1);
     EXPECT_TRUE(stoppedWhileOpen);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);

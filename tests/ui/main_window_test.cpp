@@ -70,31 +70,6 @@ TEST_F(MainWindowTest, StartShowsTheSplashThenTheMainWindowWithItsNamesForReader
     saveScreenshot(main(), "main-window.png");
 }
 
-TEST_F(MainWindowTest, AboutOpensTheSplashFaceModallyAndItsOkButtonClosesIt) {
-    program().Main();
-    settle();
-    bool seen = false;
-    // The About box waits, letting events run, until it is hidden: this runs inside that wait.
-    tc.loop.startTimer(
-        50,
-        [&] {
-            GeneralWindow& about = views->general();
-            seen = about.isVisible();
-            EXPECT_TRUE(about.isModal());
-            auto* ok = find<QAbstractButton>(about, "SScmdOK");
-            ASSERT_NE(ok, nullptr);
-            EXPECT_TRUE(ok->isVisible());
-            EXPECT_EQ(ok->accessibleName(), "OK");
-            saveScreenshot(about, "about.png");
-            ok->click();
-        },
-        true);
-    main().menus().actionOf(form1().mnuAbout)->trigger();
-    EXPECT_TRUE(seen);
-    EXPECT_FALSE(views->general().isVisible());
-    EXPECT_FALSE(program().frmGeneral.PanelSplash.Visible());
-}
-
 TEST_F(MainWindowTest, AMenuEntryRunsItsClickAndShowsTheModelsCheckMark) {
     program().Main();
     settle();
@@ -113,7 +88,7 @@ TEST_F(MainWindowTest, AMenuEntryRunsItsClickAndShowsTheModelsCheckMark) {
     EXPECT_EQ(main().menus().actionOf(form1().mnuAbout)->text(), "&About");
 }
 
-TEST_F(MainWindowTest, ActivationFiresWhenTheWindowComesBackFromAnotherForm) {
+TEST_F(MainWindowTest, AboutIsModalItsOkClosesItAndTheWindowsReturnActivatesTheForm) {
     int activations = 0;
     auto programActivate = form1().onActivate;
     form1().onActivate = [&] {
@@ -123,16 +98,25 @@ TEST_F(MainWindowTest, ActivationFiresWhenTheWindowComesBackFromAnotherForm) {
     program().Main();
     settle();
     EXPECT_EQ(activations, 1);
-    // The real loop lets window events run during the About box's wait; here the test does.
+    bool seen = false;
+    // The About box waits, letting events run, until it is hidden: this runs inside that wait.
     tc.loop.startTimer(
         10,
         [&] {
             settle();
-            EXPECT_EQ(QGuiApplication::focusWindow(), views->general().windowHandle());
-            program().frmGeneral.SScmdOK.Click();
+            GeneralWindow& about = views->general();
+            seen = about.isVisible() && about.isModal();
+            EXPECT_EQ(QGuiApplication::focusWindow(), about.windowHandle());
+            auto* ok = find<QAbstractButton>(about, "SScmdOK");
+            ASSERT_NE(ok, nullptr);
+            EXPECT_EQ(ok->accessibleName(), "OK");
+            saveScreenshot(about, "about.png");
+            ok->click();
         },
         true);
     main().menus().actionOf(form1().mnuAbout)->trigger();
+    EXPECT_TRUE(seen);
+    EXPECT_FALSE(views->general().isVisible());
     // The window manager gives the focus back; the offscreen platform has none, so the test does.
     main().activateWindow();
     settle();

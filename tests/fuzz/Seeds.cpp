@@ -15,7 +15,9 @@ constexpr std::size_t kMaxSize = 64 * 1024;
 // comes from the distance between headers.
 constexpr std::uint32_t kMpeg1 = 0xFFFB9064u, kMpeg2Mono = 0xFFF380C0u, kFreeFormat = 0xFFFB0064u;
 
-Bytes bytes(std::string_view s) { return Bytes(s.begin(), s.end()); }
+Bytes bytes(std::string_view s) {
+    return Bytes(s.begin(), s.end());
+}
 
 Bytes operator+(Bytes a, const Bytes& b) {
     a.insert(a.end(), b.begin(), b.end());
@@ -80,8 +82,14 @@ std::vector<Seed> pathSeeds() {
 }
 
 Bytes mutate(const Bytes& input, const Bytes& other, std::mt19937& rng) {
-    static const std::string kMarkers[] = {"TAG",         "ID3",  "Xing", "Info", "\xFF\xFB\x90\x64", "\xFF\xF3\x80\xC0",
-                                           "\xFF\xFF\xFF\xFF", std::string(4, '\0')};
+    static constexpr std::string_view kMarkers[] = {"TAG"sv,
+                                                    "ID3"sv,
+                                                    "Xing"sv,
+                                                    "Info"sv,
+                                                    "\xFF\xFB\x90\x64"sv,
+                                                    "\xFF\xF3\x80\xC0"sv,
+                                                    "\xFF\xFF\xFF\xFF"sv,
+                                                    "\0\0\0\0"sv};
     Bytes b = input;
     auto pick = [&rng](std::size_t n) { return n == 0 ? 0 : std::size_t(rng() % n); };
     auto at = [&b](std::size_t i) { return b.begin() + std::ptrdiff_t(i); };
@@ -112,7 +120,7 @@ Bytes mutate(const Bytes& input, const Bytes& other, std::mt19937& rng) {
                 b.insert(b.end(), other.begin() + std::ptrdiff_t(pick(other.size() + 1)), other.end());
                 break;
             default: {  // a marker the parsers look for: at the start, where a tag's goes, or anywhere
-                const std::string& m = kMarkers[pick(std::size(kMarkers))];
+                const std::string_view m = kMarkers[pick(std::size(kMarkers))];
                 std::size_t to = where;
                 if (rng() % 3 == 0)
                     to = 0;

@@ -5,9 +5,9 @@
 
 #include "Check.h"
 #include "TempFile.h"
+#include "controls/Windows1252.h"
 #include "engine/id3/Id3v1Tag.h"
 #include "engine/id3/Id3v1Writer.h"
-#include "controls/Windows1252.h"
 
 namespace {
 
@@ -71,13 +71,17 @@ void checkWrite(const std::uint8_t* data, std::size_t size, const QByteArray& by
     // written over. The year's digits are the reader's to check.
     const bool hadTag = readId3v1(bytes).present;
     const qsizetype audio = hadTag ? bytes.size() - id3v1::kSize : bytes.size();
-    QByteArray expected = bytes.left(audio) + (hadTag ? bytes.right(id3v1::kSize)
-                                                      : QByteArray("TAG").leftJustified(127, '\0') + char(255));
+    QByteArray expected =
+        bytes.left(audio) +
+        (hadTag ? bytes.right(id3v1::kSize) : QByteArray("TAG").leftJustified(127, '\0') + char(255));
     auto put = [&](id3v1::Field field, const QByteArray& value) {
-        expected.replace(audio + field.offset, field.length, value.left(field.length).leftJustified(field.length, '\0'));
+        expected.replace(audio + field.offset, field.length,
+                         value.left(field.length).leftJustified(field.length, '\0'));
     };
-    for (auto [field, value] : {std::pair{id3v1::kTitle, changes.title}, {id3v1::kArtist, changes.artist},
-                                {id3v1::kAlbum, changes.album}, {id3v1::kComment, changes.comment}})
+    for (auto [field, value] : {std::pair{id3v1::kTitle, changes.title},
+                                {id3v1::kArtist, changes.artist},
+                                {id3v1::kAlbum, changes.album},
+                                {id3v1::kComment, changes.comment}})
         if (value) put(field, encodeWindows1252(*value));
     if (changes.year) {
         FUZZ_CHECK(readId3v1(after).year == std::clamp(*changes.year, 0, 9999));

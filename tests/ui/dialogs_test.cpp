@@ -31,55 +31,67 @@ void escape(QWidget& box) {
     QCoreApplication::sendEvent(&box, &press);
 }
 
-QString shownText(const QAbstractButton* b) { return b ? b->text().remove(u'&') : QStringLiteral("none"); }
+// A button's text without its mnemonic mark.
+QString shownText(const QAbstractButton* b) {
+    return b ? b->text().remove(u'&') : QString();
+}
 
 struct BoxCase {
     MsgButtons set;
     MsgIcon icon;
     QMessageBox::Icon shown;
-    QString title;  // none: the program's name
-    QStringList buttons;
-    std::vector<MsgResult> answers;  // of each button
-    MsgResult escaped;               // Escape, and the window's close
+    std::vector<std::pair<QString, MsgResult>> buttons;  // as shown, the default first, and their answers
+    MsgResult escaped;                                   // Escape, and the window's close
 };
 
 TEST(QtDialogsTest, EachButtonSetShowsItsButtonsAndAnswersForEachWayOfClosing) {
+    using B = MsgButtons;
+    using I = MsgIcon;
+    using Q = QMessageBox;
     using R = MsgResult;
     const BoxCase cases[] = {
-        {MsgButtons::OK, MsgIcon::None, QMessageBox::NoIcon, "Database", {"OK"}, {R::OK}, R::OK},
-        {MsgButtons::OKCancel, MsgIcon::Information, QMessageBox::Information, "", {"OK", "Cancel"},
-         {R::OK, R::Cancel}, R::Cancel},
-        {MsgButtons::AbortRetryIgnore, MsgIcon::Critical, QMessageBox::Critical, "Copy", {"Abort", "Retry", "Ignore"},
-         {R::Abort, R::Retry, R::Ignore}, R::Abort},
-        {MsgButtons::YesNoCancel, MsgIcon::Question, QMessageBox::Question, "", {"Yes", "No", "Cancel"},
-         {R::Yes, R::No, R::Cancel}, R::Cancel},
-        {MsgButtons::YesNo, MsgIcon::Exclamation, QMessageBox::Warning, "Delete", {"Yes", "No"}, {R::Yes, R::No},
-         R::No},
-        {MsgButtons::RetryCancel, MsgIcon::Exclamation, QMessageBox::Warning, "", {"Retry", "Cancel"},
-         {R::Retry, R::Cancel}, R::Cancel},
+        {B::OK, I::None, Q::NoIcon, {{"OK", R::OK}}, R::OK},
+        {B::OKCancel, I::Information, Q::Information, {{"OK", R::OK}, {"Cancel", R::Cancel}}, R::Cancel},
+        {B::AbortRetryIgnore,
+         I::Critical,
+         Q::Critical,
+         {{"Abort", R::Abort}, {"Retry", R::Retry}, {"Ignore", R::Ignore}},
+         R::Abort},
+        {B::YesNoCancel,
+         I::Question,
+         Q::Question,
+         {{"Yes", R::Yes}, {"No", R::No}, {"Cancel", R::Cancel}},
+         R::Cancel},
+        {B::YesNo, I::Exclamation, Q::Warning, {{"Yes", R::Yes}, {"No", R::No}}, R::No},
+        {B::RetryCancel, I::Exclamation, Q::Warning, {{"Retry", R::Retry}, {"Cancel", R::Cancel}}, R::Cancel},
     };
     const QString text = QStringLiteral("Replace <b>Rock & Roll</b>?");  // shown as it is, not as markup
     QtDialogs dialogs;
     for (const BoxCase& c : cases) {
-        SCOPED_TRACE(c.buttons.join(u' ').toStdString());
+        QStringList names;
+        for (const auto& button : c.buttons) names << button.first;
+        SCOPED_TRACE(names.join(u' ').toStdString());
+        // Every other box has no title of its own and shows the program's name.
+        const QString title = names.size() % 2 ? QStringLiteral("Database") : QString();
         auto ask = [&](const std::function<void(QMessageBox&)>& act) {
             whenUp<QMessageBox>(act);
-            return dialogs.msgBox(text, c.set, c.icon, c.title);
+            return dialogs.msgBox(text, c.set, c.icon, title);
         };
-        for (qsizetype i = 0; i < c.buttons.size(); ++i) {
+        for (const auto& button : c.buttons) {
             const MsgResult answer = ask([&](QMessageBox& box) {
                 QStringList shown;
                 for (QAbstractButton* b : box.buttons()) shown << shownText(b);
-                EXPECT_EQ(QSet(shown.begin(), shown.end()), QSet(c.buttons.begin(), c.buttons.end()));
-                EXPECT_EQ(shownText(box.defaultButton()), c.buttons.first());
+                EXPECT_EQ(QSet(shown.begin(), shown.end()), QSet(names.begin(), names.end()));
+                EXPECT_EQ(shownText(box.defaultButton()), names.first());
                 EXPECT_EQ(box.text(), text);
                 EXPECT_EQ(box.textFormat(), Qt::PlainText);
                 EXPECT_EQ(box.icon(), c.shown);
-                EXPECT_EQ(box.windowTitle(), c.title.isEmpty() ? QGuiApplication::applicationDisplayName() : c.title);
+                EXPECT_EQ(box.windowTitle(),
+                          title.isEmpty() ? QGuiApplication::applicationDisplayName() : title);
                 for (QAbstractButton* b : box.buttons())
-                    if (shownText(b) == c.buttons[i]) b->click();
+                    if (shownText(b) == button.first) b->click();
             });
-            EXPECT_EQ(answer, c.answers[std::size_t(i)]) << c.buttons[i].toStdString();
+            EXPECT_EQ(answer, button.second) << button.first.toStdString();
         }
         EXPECT_EQ(ask([](QMessageBox& box) { escape(box); }), c.escaped) << "Escape";
         EXPECT_EQ(ask([](QMessageBox& box) { box.close(); }), c.escaped) << "close";

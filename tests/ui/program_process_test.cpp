@@ -87,8 +87,8 @@ protected:
         out.setByteOrder(QDataStream::LittleEndian);
         for (int i = 0; i < rate * seconds; ++i) out << qint16(8000 * std::sin(i * 2 * M_PI * 440 / rate));
         QProcess lame;
-        lame.start("lame", {"--silent", "-r", "-s", "22.05", "--bitwidth", "16", "--signed", "--little-endian",
-                            "-m", "m", "-", mp3});
+        lame.start("lame", {"--silent", "-r", "-s", "22.05", "--bitwidth", "16", "--signed",
+                            "--little-endian", "-m", "m", "-", mp3});
         lame.write(pcm);
         lame.closeWriteChannel();
         return lame.waitForFinished(60000) && lame.exitCode() == 0;
@@ -100,7 +100,8 @@ protected:
 
 // The program object main() builds, in this process, so that the test can close its window.
 TEST_F(ProgramProcess, ASongPlaysAndTheWindowsCloseEndsTheProgram) {
-    if (QStandardPaths::findExecutable("lame").isEmpty()) GTEST_SKIP() << "lame is needed (tools/common.sh installs it)";
+    if (QStandardPaths::findExecutable("lame").isEmpty())
+        GTEST_SKIP() << "lame is needed (tools/common.sh installs it)";
     ASSERT_TRUE(makeSong(path("Tone.MP3")));
     const QString was = QDir::currentPath();
     const QByteArray sessionBus = qgetenv("DBUS_SESSION_BUS_ADDRESS");

@@ -1,8 +1,7 @@
 // Opening and decoding arbitrary bytes as an MP3 file through the player's decoder: it either
 // refuses the file or decodes it to the end, with frame numbers and sample counts in bounds,
 // seeks landing where asked, and every loop finite.
-#include "Check.h"
-#include "TempFile.h"
+#include "Fuzz.h"
 #include "engine/player/Mp3Decoder.h"
 
 namespace {

@@ -3,8 +3,7 @@
 // must change only the fields asked for and never the bytes in front of the tag.
 #include <QFile>
 
-#include "Check.h"
-#include "TempFile.h"
+#include "Fuzz.h"
 #include "controls/Windows1252.h"
 #include "engine/id3/Id3v1Tag.h"
 #include "engine/id3/Id3v1Writer.h"

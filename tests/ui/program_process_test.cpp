@@ -129,6 +129,7 @@ TEST_F(ProgramProcess, ASongPlaysAndTheWindowsCloseEndsTheProgram) {
         exitCode = QApplication::exec();
     }
     QDir::setCurrent(was);
+    QApplication::setQuitOnLastWindowClosed(true);
     qunsetenv("SONARIUM_AUDIO");
     if (!sessionBus.isEmpty()) qputenv("DBUS_SESSION_BUS_ADDRESS", sessionBus);
     EXPECT_EQ(exitCode, 0) << "last time shown: " << time.toStdString();

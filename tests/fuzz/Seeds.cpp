@@ -95,7 +95,7 @@ Bytes mutate(const Bytes& input, const Bytes& other, std::mt19937& rng) {
     auto at = [&b](std::size_t i) { return b.begin() + std::ptrdiff_t(i); };
     for (int edits = 1 + int(rng() % 4); edits > 0; --edits) {
         const std::size_t where = pick(b.size() + 1);
-        switch (rng() % 6) {
+        switch (rng() % 5) {
             case 0:  // a bit flipped
                 if (!b.empty()) b[pick(b.size())] ^= std::uint8_t(1u << (rng() % 8));
                 break;
@@ -109,13 +109,10 @@ Bytes mutate(const Bytes& input, const Bytes& other, std::mt19937& rng) {
                 b.insert(at(where), piece.begin(), piece.end());
                 break;
             }
-            case 2:  // bytes taken out
-                b.erase(at(where), at(std::min(b.size(), where + 1 + pick(256))));
+            case 2:  // bytes taken out, or the rest cut off
+                b.erase(at(where), rng() % 4 ? at(std::min(b.size(), where + 1 + pick(256))) : b.end());
                 break;
-            case 3:  // cut short
-                b.resize(where);
-                break;
-            case 4:  // the head of one, the tail of the other
+            case 3:  // the head of one, the tail of the other
                 b.resize(where);
                 b.insert(b.end(), other.begin() + std::ptrdiff_t(pick(other.size() + 1)), other.end());
                 break;

@@ -29,7 +29,7 @@ std::vector<Seed> pathSeeds();
 #endif
 
 // One to four random edits of `input`: bit flips, random bytes or copied pieces put in, bytes
-// taken out, truncation, splices with `other`, and markers the parsers look for ("TAG", "ID3",
+// taken out or the rest cut off, splices with `other`, and markers the parsers look for ("TAG", "ID3",
 // "Xing", frame headers) dropped at telling places. Never longer than 64 KiB.
 Bytes mutate(const Bytes& input, const Bytes& other, std::mt19937& rng);
 

@@ -1,7 +1,8 @@
 // The media controls on a private session bus, driven by the desktop's own command-line
 // client: status, play-pause, next, metadata and volume reach the program, and a change made
-// in the window reaches a client that follows it. Without a bus there is no service. What each
-// command does and what the song's fields hold is MediaControlsTest's to check.
+// in the window reaches a client that follows it. What each command does and what the song's
+// fields hold is MediaControlsTest's to check; the program without a bus runs in
+// program_process_test.
 #include <QDBusConnection>
 #include <QElapsedTimer>
 #include <QEventLoop>
@@ -114,17 +115,6 @@ TEST_F(MprisTest, TheDesktopsClientDrivesTheTransportAndFollowsItsChanges) {
     EXPECT_TRUE(hears("Paused\n")) << heard.toStdString();
     follower.kill();
     follower.waitForFinished();
-}
-
-TEST(MprisAbsent, NoBusMeansNoServiceAndNoComplaint) {
-    TestComponents tc;
-    Components components = tc.components();
-    Program program(components);
-    MediaControls controls(program.form1);
-    const QByteArray saved = qgetenv("DBUS_SESSION_BUS_ADDRESS");
-    qunsetenv("DBUS_SESSION_BUS_ADDRESS");
-    EXPECT_EQ(MprisService::start(controls, {}), nullptr);
-    if (!saved.isEmpty()) qputenv("DBUS_SESSION_BUS_ADDRESS", saved);
 }
 
 }  // namespace

@@ -125,7 +125,9 @@ TEST_F(ProgramProcess, ASongPlaysAndTheWindowsCloseEndsTheProgram) {
             closeRefused = !window.close();  // the program ends the process itself
         });
         poll.start(50);
-        QTimer::singleShot(20000, qApp, [] { QCoreApplication::exit(-2); });
+        QTimer giveUp;  // goes with this block, so that it cannot end a later test's loop
+        giveUp.callOnTimeout([] { QCoreApplication::exit(-2); });
+        giveUp.start(20000);
         exitCode = QApplication::exec();
     }
     QDir::setCurrent(was);

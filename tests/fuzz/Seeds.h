@@ -28,9 +28,9 @@ std::vector<Seed> pathSeeds();
 #define FUZZ_SEEDS seedCorpus
 #endif
 
-// One to four random edits of `input`: bit flips, byte sets, inserts, deletes, copies,
-// truncation, splices with `other`, and markers the parsers look for ("TAG", "ID3", "Xing",
-// frame headers) dropped at telling places. Never longer than 64 KiB.
+// One to four random edits of `input`: bit flips, random bytes or copied pieces put in, bytes
+// taken out or the rest cut off, splices with `other`, and markers the parsers look for ("TAG", "ID3",
+// "Xing", frame headers) dropped at telling places. Never longer than 64 KiB.
 Bytes mutate(const Bytes& input, const Bytes& other, std::mt19937& rng);
 
 }  // namespace sonarium::fuzz

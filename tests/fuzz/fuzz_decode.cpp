@@ -1,8 +1,7 @@
 // Opening and decoding arbitrary bytes as an MP3 file through the player's decoder: it either
 // refuses the file or decodes it to the end, with frame numbers and sample counts in bounds,
 // seeks landing where asked, and every loop finite.
-#include "Check.h"
-#include "TempFile.h"
+#include "Fuzz.h"
 #include "engine/player/Mp3Decoder.h"
 
 namespace {
@@ -34,11 +33,8 @@ int decodeRest(Mp3Decoder& d, int limit) {
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static fuzz::TempFile file(".mp3");
-    file.fill(data, size);
-
     Mp3Decoder d;
-    if (d.open(file.path()) != 0) {
+    if (d.open(fuzz::scratchFile(data, size)) != 0) {
         FUZZ_CHECK(!d.isOpen());
         return 0;
     }

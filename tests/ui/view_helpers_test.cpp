@@ -27,15 +27,14 @@ TEST(KeyCodes, QtKeysBecomeThePlatformsCodes) {
 }
 
 TEST(ListKeys, NavigationStaysInsideTheList) {
-    EXPECT_EQ(rowAfterKey(Qt::Key_Down, -1, 5, 3), 0);
-    EXPECT_EQ(rowAfterKey(Qt::Key_Down, 4, 5, 3), 4);
-    EXPECT_EQ(rowAfterKey(Qt::Key_Up, 0, 5, 3), 0);
-    EXPECT_EQ(rowAfterKey(Qt::Key_PageDown, 1, 10, 4), 4);
-    EXPECT_EQ(rowAfterKey(Qt::Key_PageUp, 2, 10, 4), 0);
-    EXPECT_EQ(rowAfterKey(Qt::Key_End, 0, 10, 4), 9);
-    EXPECT_EQ(rowAfterKey(Qt::Key_Home, 7, 10, 4), 0);
-    EXPECT_EQ(rowAfterKey(Qt::Key_Down, -1, 0, 4), -1);
-    EXPECT_EQ(rowAfterKey(Qt::Key_A, 1, 10, 4), -1);
+    struct Case {
+        int key, row, count, page, expected;
+    };
+    const Case cases[] = {{Qt::Key_Down, -1, 5, 3, 0},    {Qt::Key_Down, 4, 5, 3, 4},     {Qt::Key_Up, 0, 5, 3, 0},
+                          {Qt::Key_PageDown, 1, 10, 4, 4}, {Qt::Key_PageUp, 2, 10, 4, 0},  {Qt::Key_End, 0, 10, 4, 9},
+                          {Qt::Key_Home, 7, 10, 4, 0},     {Qt::Key_Down, -1, 0, 4, -1},   {Qt::Key_A, 1, 10, 4, -1}};
+    for (const Case& c : cases)
+        EXPECT_EQ(rowAfterKey(c.key, c.row, c.count, c.page), c.expected) << c.key << " from " << c.row;
 }
 
 TEST(Placement, TwipsBecomePixelsAndArraysGetTheirIndex) {
@@ -51,32 +50,21 @@ TEST(Placement, TwipsBecomePixelsAndArraysGetTheirIndex) {
 TEST(PictureConvert, PixelsSurviveBothWaysExactly) {
     const std::vector<std::uint32_t> pixels = {0xFFFF0000u, 0xFF00FF00u, 0x800000FFu, 0xFF123456u,
                                                0x00000000u, 0xFFFFFFFFu};
-    const Picture picture(3, 2, pixels);
-    const QImage image = toQImage(picture);
+    const QImage image = toQImage(Picture(3, 2, pixels));  // kept alive past the picture
     ASSERT_EQ(image.format(), QImage::Format_ARGB32);
     ASSERT_EQ(image.size(), QSize(3, 2));
-    EXPECT_EQ(image.pixel(0, 0), 0xFFFF0000u);
-    EXPECT_EQ(image.pixel(2, 1), 0xFFFFFFFFu);
     EXPECT_EQ(image.pixel(0, 1), 0xFF123456u);
-
     const Picture back = fromQImage(image);
-    ASSERT_EQ(back.width(), 3);
     for (int y = 0; y < 2; ++y)
         for (int x = 0; x < 3; ++x) EXPECT_EQ(back.pixel(x, y), pixels[std::size_t(y * 3 + x)]) << x << "," << y;
-
-    // The image keeps the picture's pixels alive after the picture is gone.
-    QImage kept;
-    { kept = toQImage(Picture::filled(2, 2, 0xFF0A0B0Cu)); }
-    EXPECT_EQ(kept.pixel(1, 1), 0xFF0A0B0Cu);
 
     // Palette images (as BMP files load) come out as plain colours.
     QImage indexed(2, 1, QImage::Format_Indexed8);
     indexed.setColorTable({qRgb(1, 2, 3), qRgb(200, 100, 50)});
     indexed.setPixel(0, 0, 1);
     indexed.setPixel(1, 0, 0);
-    const Picture fromIndexed = fromQImage(indexed);
-    EXPECT_EQ(fromIndexed.pixel(0, 0), 0xFFC86432u);
-    EXPECT_EQ(fromIndexed.pixel(1, 0), 0xFF010203u);
+    EXPECT_EQ(fromQImage(indexed).pixel(0, 0), 0xFFC86432u);
+    EXPECT_EQ(fromQImage(indexed).pixel(1, 0), 0xFF010203u);
     EXPECT_TRUE(toQImage(Picture()).isNull());
     EXPECT_TRUE(fromQImage(QImage()).isNull());
 }

@@ -1,0 +1,31 @@
+#pragma once
+// What the fuzz targets share: a check that keeps the failing input, and a scratch file.
+#include <QDir>
+#include <QTemporaryFile>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+
+// A broken invariant: say which, then abort so that the fuzzer keeps the input.
+#define FUZZ_CHECK(cond)                                                                  \
+    do {                                                                                  \
+        if (!(cond)) {                                                                    \
+            std::fprintf(stderr, "%s:%d: check failed: %s\n", __FILE__, __LINE__, #cond); \
+            std::abort();                                                                 \
+        }                                                                                 \
+    } while (0)
+
+namespace sonarium::fuzz {
+
+// The name of the process's one scratch file, now holding the `size` bytes at `data`; it is
+// removed at exit.
+inline QString scratchFile(const std::uint8_t* data, std::size_t size) {
+    static QTemporaryFile file(QDir::tempPath() + QStringLiteral("/sonarium-fuzz-XXXXXX.mp3"));
+    if (!file.isOpen() && !file.open()) std::abort();
+    if (!file.resize(0) || !file.seek(0) ||
+        file.write(reinterpret_cast<const char*>(data), qint64(size)) != qint64(size) || !file.flush())
+        std::abort();
+    return file.fileName();
+}
+
+}  // namespace sonarium::fuzz

@@ -41,21 +41,11 @@ private:
 
 }  // namespace
 
-VirtualEventLoop::VirtualEventLoop() : wallBase_(QDate(2024, 1, 1), QTime(12, 0)) {}
-
-VirtualEventLoop::~VirtualEventLoop() = default;
-
-QDateTime VirtualEventLoop::wallClock() const { return wallBase_.addMSecs(now_); }
-
-void VirtualEventLoop::setWallClock(const QDateTime& dt) { wallBase_ = dt.addMSecs(-now_); }
-
 VirtualEventLoop::Key VirtualEventLoop::schedule(std::int64_t due, Item item) {
     Key key{due, nextSeq_++};
     queue_.emplace(key, std::move(item));
     return key;
 }
-
-void VirtualEventLoop::post(Task fn) { schedule(now_, Item{0, std::move(fn)}); }
 
 EventLoop::TimerId VirtualEventLoop::startTimer(int intervalMs, Task fn, bool singleShot) {
     // A repeating timer of 0 ms would fall due again at the same instant for ever; like a busy
@@ -73,10 +63,6 @@ void VirtualEventLoop::stopTimer(TimerId id) {
     if (it == timers_.end()) return;
     queue_.erase(it->second->pending);
     timers_.erase(it);
-}
-
-bool VirtualEventLoop::hasReady() const {
-    return !queue_.empty() && queue_.begin()->first.due <= now_;
 }
 
 void VirtualEventLoop::runItem(std::map<Key, Item>::iterator it) {
@@ -168,26 +154,6 @@ void VirtualEventLoop::runUntilIdle() {
             stuck(QStringLiteral("work keeps posting more work at %1 ms").arg(now_));
         runItem(queue_.begin());
     }
-}
-
-void VirtualEventLoop::traceLine(const QString& line) {
-    trace_ << QString(traceDepth_ * 2, QLatin1Char(' ')) + line;
-}
-
-void VirtualEventLoop::traceEnter(const QString& what) {
-    if (!tracing_) return;
-    traceLine("enter " + what);
-    ++traceDepth_;
-}
-
-void VirtualEventLoop::traceExit(const QString& what) {
-    if (!tracing_) return;
-    traceDepth_ = std::max(traceDepth_ - 1, 0);
-    traceLine("exit " + what);
-}
-
-void VirtualEventLoop::traceNote(const QString& what) {
-    if (tracing_) traceLine(what);
 }
 
 }  // namespace sonarium

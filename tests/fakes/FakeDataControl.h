@@ -14,11 +14,15 @@ namespace sonarium {
 class FakeDataControl : public DataControl, public CallLog {
 public:
     QString DatabaseName() const override { return databaseName_; }
-    void setDatabaseName(const QString& file) override { set(QStringLiteral("DatabaseName"), databaseName_, file); }
+    void setDatabaseName(const QString& file) override {
+        set(QStringLiteral("DatabaseName"), databaseName_, file);
+    }
     QString Connect() const override { return connect_; }
     void setConnect(const QString& connect) override { set(QStringLiteral("Connect"), connect_, connect); }
     QString RecordSource() const override { return recordSource_; }
-    void setRecordSource(const QString& source) override { set(QStringLiteral("RecordSource"), recordSource_, source); }
+    void setRecordSource(const QString& source) override {
+        set(QStringLiteral("RecordSource"), recordSource_, source);
+    }
     void Refresh() override { record("Refresh"); }
     Database& database() override { return database_; }
     Recordset& recordset() override { return records_; }
@@ -64,7 +68,9 @@ private:
         Field& Fields(const QString&) override { noField(); }
 
     private:
-        [[noreturn]] static void noRecord() { throw RuntimeError(3021, QStringLiteral("No current record.")); }
+        [[noreturn]] static void noRecord() {
+            throw RuntimeError(3021, QStringLiteral("No current record."));
+        }
         [[noreturn]] static void noField() {
             throw RuntimeError(3265, QStringLiteral("Item not found in this collection."));
         }

@@ -15,8 +15,8 @@ public:
     std::optional<int> quitCode() const { return quitCode_; }
 
     QStringList screenFonts() override {
-        return {QStringLiteral("DejaVu Sans"), QStringLiteral("DejaVu Sans Mono"), QStringLiteral("DejaVu Serif"),
-                QStringLiteral("Liberation Sans")};
+        return {QStringLiteral("DejaVu Sans"), QStringLiteral("DejaVu Sans Mono"),
+                QStringLiteral("DejaVu Serif"), QStringLiteral("Liberation Sans")};
     }
     QSize screenSizeTwips() override { return {1920 * 15, 1080 * 15}; }
     QPoint cursorPosTwips() override { return {0, 0}; }

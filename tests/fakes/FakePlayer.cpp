@@ -24,9 +24,10 @@ void FakePlayer::startClock() {
     stopClock();
     const int frameMs = std::max(1, FrameMs * speed_ / 100);
     timer_ = loop_.startTimer(frameMs, guarded([this] {
-        timer_ = 0;
-        nextFrame();
-    }), true);
+                                  timer_ = 0;
+                                  nextFrame();
+                              }),
+                              true);
 }
 
 void FakePlayer::stopClock() {
@@ -57,6 +58,7 @@ void FakePlayer::raiseStreamEnd(StreamEndRule::Token token) {
 
 // --- Mp3Player ---
 
+// The WAV name is only recorded: the fake writes no file.
 std::int16_t FakePlayer::Open(const QString& file, const QString& wav) {
     record("Open", file, wav);
     closeFile();
@@ -66,7 +68,6 @@ std::int16_t FakePlayer::Open(const QString& file, const QString& wav) {
     const bool fails = it == files_.end() || it->frames <= 0 || it->failuresLeft != 0;
     if (it != files_.end() && it->failuresLeft > 0) --it->failuresLeft;
     file_ = fails ? QString() : file;
-    wav_ = fails ? QString() : wav;
     if (fails) {
         ends_.closed();
         return 1;

@@ -48,11 +48,7 @@ public:
     // --- Looking in (tests) ---
     State state() const { return state_; }
     QString openFile() const { return state_ == State::Closed ? QString() : file_; }
-    QString wavFile() const { return wav_; }
     std::int32_t position() const { return pos_; }
-    std::int16_t volume() const { return volume_; }  // the left channel's
-    std::int16_t speed() const { return speed_; }
-    std::int16_t notifyInterval() const { return interval_; }
     // The tag of a registered file, as WriteTag left it.
     Id3Fields tagOf(const QString& path) const { return files_.value(path.toUpper()).tag; }
 
@@ -69,7 +65,6 @@ public:
     std::int16_t SeekFrame(std::int32_t frame) override;
     std::int16_t SetVolume(std::int16_t left, std::int16_t right) override {
         record("SetVolume", left, right);
-        volume_ = left;
         return 0;
     }
     std::int16_t SetSpeed(std::int16_t speed) override;
@@ -136,11 +131,11 @@ private:
     State state_ = State::Closed;
     StreamEndRule ends_;
     StreamEndRule::Token runToken_ = 0;
-    QString file_, wav_;  // the file stays WriteTag's target after Close
+    QString file_;  // it stays WriteTag's target after Close
     TagEdit edit_;
     std::int32_t pos_ = 0, end_ = 0;
     EventLoop::TimerId timer_ = 0;
-    std::int16_t volume_ = 0, speed_ = 100, interval_ = 32;
+    std::int16_t speed_ = 100, interval_ = 32;
 };
 
 }  // namespace sonarium

@@ -13,12 +13,18 @@ namespace {
 // The results a box with these buttons can give; the first is what closing it gives.
 std::vector<MsgResult> possibleResults(MsgButtons b) {
     switch (b) {
-    case MsgButtons::OK: return {MsgResult::OK};
-    case MsgButtons::OKCancel: return {MsgResult::Cancel, MsgResult::OK};
-    case MsgButtons::AbortRetryIgnore: return {MsgResult::Abort, MsgResult::Retry, MsgResult::Ignore};
-    case MsgButtons::YesNoCancel: return {MsgResult::Cancel, MsgResult::Yes, MsgResult::No};
-    case MsgButtons::YesNo: return {MsgResult::No, MsgResult::Yes};
-    case MsgButtons::RetryCancel: return {MsgResult::Cancel, MsgResult::Retry};
+        case MsgButtons::OK:
+            return {MsgResult::OK};
+        case MsgButtons::OKCancel:
+            return {MsgResult::Cancel, MsgResult::OK};
+        case MsgButtons::AbortRetryIgnore:
+            return {MsgResult::Abort, MsgResult::Retry, MsgResult::Ignore};
+        case MsgButtons::YesNoCancel:
+            return {MsgResult::Cancel, MsgResult::Yes, MsgResult::No};
+        case MsgButtons::YesNo:
+            return {MsgResult::No, MsgResult::Yes};
+        case MsgButtons::RetryCancel:
+            return {MsgResult::Cancel, MsgResult::Retry};
     }
     return {MsgResult::Cancel};
 }
@@ -42,7 +48,7 @@ QStringList ScriptedDialogs::texts() const {
 }
 
 ScriptedDialogs::Answer ScriptedDialogs::take(Shown shown) {
-    static const char* const kindNames[] = {"message box",    "input box",     "open-file dialog",
+    static const char* const kindNames[] = {"message box",      "input box",     "open-file dialog",
                                             "save-file dialog", "colour dialog", "printer dialog",
                                             "directory dialog", "popup menu"};
     QString what = QStringLiteral("%1 \"%2\"").arg(QLatin1String(kindNames[int(shown.kind)]), shown.text);
@@ -62,7 +68,8 @@ ScriptedDialogs::Answer ScriptedDialogs::take(Shown shown) {
     return a;
 }
 
-MsgResult ScriptedDialogs::msgBox(const QString& text, MsgButtons buttons, MsgIcon icon, const QString& title) {
+MsgResult ScriptedDialogs::msgBox(const QString& text, MsgButtons buttons, MsgIcon icon,
+                                  const QString& title) {
     const std::vector<MsgResult> possible = possibleResults(buttons);
     Shown s = of(Kind::MsgBox, text, title);
     s.buttons = buttons;

@@ -48,8 +48,12 @@ public:
     QString inputBox(const QString& prompt, const QString& title, const QString&) override {
         return take(of(Kind::InputBox, prompt, title)).text;
     }
-    QString openFile(const FileDialogRequest& request) override { return fileDialog(Kind::OpenFile, request); }
-    QString saveFile(const FileDialogRequest& request) override { return fileDialog(Kind::SaveFile, request); }
+    QString openFile(const FileDialogRequest& request) override {
+        return fileDialog(Kind::OpenFile, request);
+    }
+    QString saveFile(const FileDialogRequest& request) override {
+        return fileDialog(Kind::SaveFile, request);
+    }
     MenuItem* popupMenu(MenuItem& menu) override;
     // No test scripts a colour, a printer or a directory: these fail the test and are cancelled.
     std::optional<Color> chooseColor(Color) override {

@@ -25,19 +25,13 @@ constexpr int kMaxPassesWithoutTime = 100000;
     throw WaitStuck(("wait cannot make progress: " + why).toStdString());
 }
 
-class DepthGuard {
-public:
-    DepthGuard(int& depth, int max) : depth_(depth) {
-        if (depth_ >= max)
-            stuck(QStringLiteral("more than %1 nested waits; a handler keeps waiting inside "
-                                 "itself").arg(max));
-        ++depth_;
-    }
-    ~DepthGuard() { --depth_; }
-
-private:
-    int& depth_;
-};
+// One more open wait for the life of the result; past `max` nested waits the loop gives up.
+auto enterWait(int& depth, int max) {
+    if (depth >= max)
+        stuck(QStringLiteral("more than %1 nested waits; a handler keeps waiting inside itself").arg(max));
+    ++depth;
+    return std::unique_ptr<int, decltype([](int* d) { --*d; })>(&depth);
+}
 
 }  // namespace
 
@@ -88,11 +82,8 @@ void VirtualEventLoop::runTimerTick(TimerId id) {
         ++dropped_;
         return;
     }
-    struct Open {
-        TimerState& t;
-        explicit Open(TimerState& s) : t(s) { t.open = true; }
-        ~Open() { t.open = false; }
-    } open(*t);
+    t->open = true;
+    const std::unique_ptr<TimerState, decltype([](TimerState* s) { s->open = false; })> closing(t.get());
     t->fn();
 }
 
@@ -108,12 +99,12 @@ void VirtualEventLoop::runPass() {
 }
 
 void VirtualEventLoop::doEvents() {
-    DepthGuard guard(depth_, maxDepth_);
+    const auto wait = enterWait(depth_, maxDepth_);
     runPass();
 }
 
 void VirtualEventLoop::waitUntil(const std::function<bool()>& done) {
-    DepthGuard guard(depth_, maxDepth_);
+    const auto wait = enterWait(depth_, maxDepth_);
     const std::int64_t start = now_;
     int passes = 0;
     while (!done()) {
@@ -123,8 +114,7 @@ void VirtualEventLoop::waitUntil(const std::function<bool()>& done) {
             runPass();
             continue;
         }
-        if (queue_.empty())
-            stuck(QStringLiteral("nothing is scheduled (at %1 ms)").arg(now_));
+        if (queue_.empty()) stuck(QStringLiteral("nothing is scheduled (at %1 ms)").arg(now_));
         const std::int64_t next = queue_.begin()->first.due;
         if (next > start + waitLimit_)
             stuck(QStringLiteral("nothing falls due within %1 ms of the wait's start at %2 ms "

@@ -12,7 +12,8 @@ class Queue : public PlaybackFixture {
 protected:
     // Empty files named Song01.MP3 ... in a directory of the test's own, which becomes CurrentDir.
     void titlesOnDisk(int count) {
-        for (int i = 1; i <= count; ++i) write(QStringLiteral("Song%1.MP3").arg(i, 2, 10, QLatin1Char('0')), {});
+        for (int i = 1; i <= count; ++i)
+            write(QStringLiteral("Song%1.MP3").arg(i, 2, 10, QLatin1Char('0')), {});
         form1().CurrentDir = dir.path() + u'/';
         form1().GetTitles();
     }

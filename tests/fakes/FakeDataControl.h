@@ -14,15 +14,11 @@ namespace sonarium {
 class FakeDataControl : public DataControl, public CallLog {
 public:
     QString DatabaseName() const override { return databaseName_; }
-    void setDatabaseName(const QString& file) override {
-        set(QStringLiteral("DatabaseName"), databaseName_, file);
-    }
+    void setDatabaseName(const QString& file) override { set("DatabaseName", databaseName_, file); }
     QString Connect() const override { return connect_; }
-    void setConnect(const QString& connect) override { set(QStringLiteral("Connect"), connect_, connect); }
+    void setConnect(const QString& connect) override { set("Connect", connect_, connect); }
     QString RecordSource() const override { return recordSource_; }
-    void setRecordSource(const QString& source) override {
-        set(QStringLiteral("RecordSource"), recordSource_, source);
-    }
+    void setRecordSource(const QString& source) override { set("RecordSource", recordSource_, source); }
     void Refresh() override { record("Refresh"); }
     Database& database() override { return database_; }
     Recordset& recordset() override { return records_; }
@@ -76,8 +72,8 @@ private:
         }
     };
 
-    void set(const QString& name, QString& property, const QString& value) {
-        record(name + u'=' + value);
+    void set(const char* name, QString& property, const QString& value) {
+        record(QLatin1String(name) + u'=' + value);
         property = value;
     }
 

@@ -63,11 +63,11 @@ std::int16_t FakePlayer::Open(const QString& file, const QString& wav) {
     record("Open", file, wav);
     closeFile();
     ends_.opened();
-    edit_ = {};
     auto it = files_.find(file.toUpper());
     const bool fails = it == files_.end() || it->frames <= 0 || it->failuresLeft != 0;
     if (it != files_.end() && it->failuresLeft > 0) --it->failuresLeft;
     file_ = fails ? QString() : file;
+    tag_ = fails ? Id3Fields{} : it->tag;
     if (fails) {
         ends_.closed();
         return 1;
@@ -128,20 +128,6 @@ std::int16_t FakePlayer::SetSpeed(std::int16_t speed) {
     speed_ = speed;
     if (state_ == State::Playing) startClock();
     return 0;
-}
-
-// Only the fields set since the last Open change; the tag's others survive.
-void FakePlayer::WriteTag() {
-    record("WriteTag");
-    auto it = files_.find(file_.toUpper());
-    if (file_.isEmpty() || it == files_.end()) return;
-    Id3Fields& t = it->tag;
-    t.title = edit_.title.value_or(t.title);
-    t.artist = edit_.artist.value_or(t.artist);
-    t.album = edit_.album.value_or(t.album);
-    t.comment = edit_.comment.value_or(t.comment);
-    t.year = edit_.year.value_or(t.year);
-    t.genre = edit_.genre.value_or(t.genre);
 }
 
 }  // namespace sonarium

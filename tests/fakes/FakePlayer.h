@@ -13,7 +13,6 @@
 // - SetSpeed scales the frame duration (speed 50 plays twice as fast).
 // - WriteTag writes the fields set since the last Open into the file of that Open.
 #include <QHash>
-#include <optional>
 
 #include "CallLog.h"
 #include "controls/EventLoop.h"
@@ -87,13 +86,17 @@ public:
     std::int16_t TagGenre() override { return open().tag.genre; }
     QString GenreName(std::int16_t genre) override { return QStringLiteral("Genre %1").arg(genre); }
 
-    void SetTagTitle(const QString& v) override { edit("SetTagTitle", edit_.title, v); }
-    void SetTagArtist(const QString& v) override { edit("SetTagArtist", edit_.artist, v); }
-    void SetTagAlbum(const QString& v) override { edit("SetTagAlbum", edit_.album, v); }
-    void SetTagComment(const QString& v) override { edit("SetTagComment", edit_.comment, v); }
-    void SetTagYear(std::int16_t v) override { edit("SetTagYear", edit_.year, v); }
-    void SetTagGenre(std::int16_t v) override { edit("SetTagGenre", edit_.genre, v); }
-    void WriteTag() override;
+    void SetTagTitle(const QString& v) override { edit("SetTagTitle", tag_.title, v); }
+    void SetTagArtist(const QString& v) override { edit("SetTagArtist", tag_.artist, v); }
+    void SetTagAlbum(const QString& v) override { edit("SetTagAlbum", tag_.album, v); }
+    void SetTagComment(const QString& v) override { edit("SetTagComment", tag_.comment, v); }
+    void SetTagYear(std::int16_t v) override { edit("SetTagYear", tag_.year, v); }
+    void SetTagGenre(std::int16_t v) override { edit("SetTagGenre", tag_.genre, v); }
+    // The tag as the last Open read it, with the fields set since, into that Open's file.
+    void WriteTag() override {
+        record("WriteTag");
+        if (files_.contains(file_.toUpper())) files_[file_.toUpper()].tag = tag_;
+    }
 
 private:
     struct File {
@@ -104,14 +107,8 @@ private:
         Id3Fields tag;
         int failuresLeft = 0;  // -1: always
     };
-    // Tag fields set since the last Open, for WriteTag.
-    struct TagEdit {
-        std::optional<QString> title, artist, album, comment;
-        std::optional<std::int16_t> year, genre;
-    };
-
     template <typename T>
-    void edit(const char* call, std::optional<T>& field, const T& value) {
+    void edit(const char* call, T& field, const T& value) {
         record(call, value);
         field = value;
     }
@@ -132,7 +129,7 @@ private:
     StreamEndRule ends_;
     StreamEndRule::Token runToken_ = 0;
     QString file_;  // it stays WriteTag's target after Close
-    TagEdit edit_;
+    Id3Fields tag_;  // for WriteTag
     std::int32_t pos_ = 0, end_ = 0;
     EventLoop::TimerId timer_ = 0;
     std::int16_t speed_ = 100, interval_ = 32;

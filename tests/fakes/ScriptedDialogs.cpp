@@ -13,18 +13,12 @@ namespace {
 // The results a box with these buttons can give; the first is what closing it gives.
 std::vector<MsgResult> possibleResults(MsgButtons b) {
     switch (b) {
-        case MsgButtons::OK:
-            return {MsgResult::OK};
-        case MsgButtons::OKCancel:
-            return {MsgResult::Cancel, MsgResult::OK};
-        case MsgButtons::AbortRetryIgnore:
-            return {MsgResult::Abort, MsgResult::Retry, MsgResult::Ignore};
-        case MsgButtons::YesNoCancel:
-            return {MsgResult::Cancel, MsgResult::Yes, MsgResult::No};
-        case MsgButtons::YesNo:
-            return {MsgResult::No, MsgResult::Yes};
-        case MsgButtons::RetryCancel:
-            return {MsgResult::Cancel, MsgResult::Retry};
+    case MsgButtons::OK: return {MsgResult::OK};
+    case MsgButtons::OKCancel: return {MsgResult::Cancel, MsgResult::OK};
+    case MsgButtons::AbortRetryIgnore: return {MsgResult::Abort, MsgResult::Retry, MsgResult::Ignore};
+    case MsgButtons::YesNoCancel: return {MsgResult::Cancel, MsgResult::Yes, MsgResult::No};
+    case MsgButtons::YesNo: return {MsgResult::No, MsgResult::Yes};
+    case MsgButtons::RetryCancel: return {MsgResult::Cancel, MsgResult::Retry};
     }
     return {MsgResult::Cancel};
 }

@@ -30,7 +30,6 @@ TEST_F(Mixer, FirstStartCreatesAnEmptyFileAndSavingWritesDefaultsAndQueue) {
     // pair it opens, lacking a name, repeats the name before it.
     restart();
     EXPECT_EQ(M().Treble, 70);
-    EXPECT_EQ(M().DefaultTreble, 70);
     EXPECT_EQ(M().MiniTop, -15);
     EXPECT_EQ(rows(), QStringList({"One", "Two", "Two"}));
     EXPECT_EQ(M().SongPath[2], "Three");
@@ -56,8 +55,6 @@ TEST_F(Mixer, SongToneFilesAndTheReturnToDefaults) {
     write("Half.TB", " 90 \r\n");
     tc.mixer.clearCalls();
     f.lstSongs.setListIndex(0);
-    EXPECT_EQ(f.SliderTreble.Top(), 1505 + 162);
-    EXPECT_EQ(f.SliderBass.Top(), 2735 + 648);
     EXPECT_EQ(tc.mixer.calls(), QStringList({"SetControlValue(2,102,0,20)", "SetControlValue(1,101,0,80)"}));
     EXPECT_EQ(M().Treble, 50) << "the variables hold the defaults again";
     EXPECT_EQ(M().Bass, 50);

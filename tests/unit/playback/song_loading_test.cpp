@@ -133,37 +133,35 @@ TEST_F(SongLoading, PhotosAreTriedFolderThenSongGifBmpJpgAndTheLastThatLoadsWins
     EXPECT_EQ(program().frmMiniPlayer.Photo.picture().source(), "/music/Blues/Song.bmp");
 }
 
-struct SizeCase {
-    int width, height;  // pixels
-    int photoWidth;     // the chosen width, twips
-    int expectWidth;
-    int expectLeft;
-    bool frames;
-};
-
-class PhotoSizing : public SongLoading, public testing::WithParamInterface<SizeCase> {};
-
-TEST_P(PhotoSizing, TheTwoKnownWidthsStayOthersTakeTheChosenWidthAndAllAre1920High) {
-    const SizeCase& c = GetParam();
+TEST_F(SongLoading, PhotosOfTheTwoKnownWidthsStayOthersTakeTheChosenWidthAndAllAre1920High) {
     Form1& f = form1();
-    f.PhotoWidth = std::int16_t(c.photoWidth);
-    f.Image8.setVisible(!c.frames);
-    queue({"Song"});
-    tc.pictures.add("/m/Song.JPG", c.width, c.height);
-    EXPECT_TRUE(load(0));
-    EXPECT_EQ(f.Photo.Width(), c.expectWidth);
-    EXPECT_EQ(f.Photo.Height(), 1920);
-    EXPECT_EQ(f.Photo.Left(), c.expectLeft);
-    EXPECT_EQ(f.Image8.Visible(), c.frames);
-    EXPECT_EQ(f.Image9.Visible(), c.frames);
+    const struct {
+        int width, height;  // pixels
+        int photoWidth;     // the chosen width, twips
+        int expectWidth, expectLeft;
+        bool frames;
+    } cases[] = {
+        {231, 67, 1920, 3465, 0, false},   // 3465 twips wide: kept, stretched to 1920 high
+        {128, 300, 3465, 1920, 772, true},  // square frame: 1545 / 2 rounds to even
+        {300, 128, 3465, 3465, 0, false},   // any other width: the chosen one
+        {300, 128, 1920, 1920, 772, true},
+        {100, 100, 3645, 3645, -90, false},
+    };
+    int row = 0;
+    for (const auto& c : cases) {
+        f.PhotoWidth = std::int16_t(c.photoWidth);
+        f.Image8.setVisible(!c.frames);
+        queue({QStringLiteral("P%1").arg(row)});
+        tc.pictures.add(QStringLiteral("/m/P%1.JPG").arg(row), c.width, c.height);
+        EXPECT_TRUE(load(row));
+        EXPECT_EQ(QList<int>({f.Photo.Width(), f.Photo.Height(), f.Photo.Left()}),
+                  QList<int>({c.expectWidth, 1920, c.expectLeft}))
+            << row;
+        EXPECT_EQ(f.Image8.Visible(), c.frames);
+        EXPECT_EQ(f.Image9.Visible(), c.frames);
+        ++row;
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Sizes, PhotoSizing,
-    testing::Values(SizeCase{231, 67, 1920, 3465, 0, false},  // 3465 twips wide: kept, stretched to 1920 high
-                    SizeCase{128, 300, 3465, 1920, 772, true},  // square frame: 1545 / 2 rounds to even
-                    SizeCase{300, 128, 3465, 3465, 0, false},   // any other width: the chosen one
-                    SizeCase{300, 128, 1920, 1920, 772, true}, SizeCase{100, 100, 3645, 3645, -90, false}));
 
 TEST_F(SongLoading, TheRunningTimeCountsFromTheSelectedRowRoundingAfterEachSong) {
     Form1& f = form1();

@@ -47,7 +47,6 @@ public:
     // --- Looking in (tests) ---
     State state() const { return state_; }
     QString openFile() const { return state_ == State::Closed ? QString() : file_; }
-    std::int32_t position() const { return pos_; }
     // The tag of a registered file, as WriteTag left it.
     Id3Fields tagOf(const QString& path) const { return files_.value(path.toUpper()).tag; }
 

@@ -83,16 +83,12 @@ MsgResult ScriptedDialogs::msgBox(const QString& text, MsgButtons buttons, MsgIc
 }
 
 MenuItem* ScriptedDialogs::popupMenu(MenuItem& menu) {
-    Shown s = of(Kind::Popup, menu.Name());
-    for (MenuItem* child : menu.children())
-        if (child->Visible()) s.entries << child->Name();
-    const QStringList offered = s.entries;
-    const Answer a = take(std::move(s));
+    const Answer a = take(of(Kind::Popup, menu.Name()));
     if (a.text.isEmpty()) return nullptr;
     MenuItem* chosen = findEntry(menu, a.text);
     if (!chosen)
         ADD_FAILURE() << "Popup menu " << menu.Name().toStdString() << " offers no visible, enabled entry "
-                      << a.text.toStdString() << " (offered: " << offered.join(u',').toStdString() << ")";
+                      << a.text.toStdString();
     return chosen;
 }
 

@@ -24,7 +24,6 @@ public:
         MsgButtons buttons = MsgButtons::OK;
         MsgIcon icon = MsgIcon::None;
         FileDialogRequest file;  // file dialogs
-        QStringList entries;     // popup: Names of the visible entries offered
     };
 
     // --- Script (each adds one answer at the end) ---

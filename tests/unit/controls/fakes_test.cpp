@@ -1,43 +1,13 @@
-// The contracts of the fakes that the logic's tests build on and that would let those tests
-// pass wrongly if broken: when the fake player's notifications and its one StreamEnd per run
-// come, and that scripted dialogs fail loudly on a question nobody expected.
+// The contract of a fake that would let the logic's tests pass wrongly if broken: scripted
+// dialogs fail loudly on a question nobody expected. (The fake player's timing and its one
+// StreamEnd per run are held by the transport's tests, which fail at once without them.)
 #include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 
-#include "TestComponents.h"
+#include "ScriptedDialogs.h"
 
 namespace sonarium {
 namespace {
-
-TEST(FakePlayerTest, NotifiesEveryIntervalAtTheFrameDurationAndEndsEachRunOnceAfterStopReturns) {
-    TestComponents tc;
-    QStringList events;
-    tc.mp3.addFile("/m/a.mp3", 100, 2.6f);
-    tc.mp3.onFrameNotify = [&](std::int32_t f) {
-        events << QStringLiteral("frame %1@%2").arg(f).arg(tc.loop.now());
-    };
-    tc.mp3.onStreamEnd = [&] { events << QStringLiteral("end@%1").arg(tc.loop.now()); };
-    ASSERT_EQ(tc.mp3.Open("/M/A.MP3", ""), 0);  // found without regard to case
-    tc.mp3.Play();
-    tc.loop.advance(10000);
-    EXPECT_EQ(events, QStringList({"frame 32@832", "frame 64@1664", "frame 96@2496", "end@2600"}));
-
-    // Speed 50 halves the frame time; a pause holds the position.
-    events.clear();
-    tc.mp3.SetSpeed(50);
-    tc.mp3.Play();
-    tc.loop.advance(13 * 20);
-    tc.mp3.Pause();
-    tc.loop.advance(1000);
-    EXPECT_EQ(tc.mp3.position(), 20);
-    tc.mp3.Play();
-    tc.loop.advance(13 * 5);
-    tc.mp3.Stop();
-    EXPECT_TRUE(events.isEmpty()) << "not inside Stop";
-    tc.mp3.Stop();  // a second Stop of the same run adds nothing
-    tc.loop.advance(10000);
-    EXPECT_EQ(events, QStringList({QStringLiteral("end@%1").arg(10000 + 260 + 1000 + 65)}));
-}
 
 TEST(ScriptedDialogsTest, AnUnexpectedDialogOrAnAnswerThatIsNoButtonFailsTheTest) {
     ScriptedDialogs d;

@@ -25,6 +25,12 @@ protected:
             if (!dir.isEmpty()) tc.mp3.addFile(dir + t + ".MP3", SongFrames, SongMs / 1000.0f);
         }
     }
+    QStringList rows() { return form1().lstSongs.rows(); }
+    QStringList dirs() {
+        QStringList out;
+        for (int i = 0; i < form1().lstSongs.ListCount(); ++i) out << M().SongPath[std::size_t(i)];
+        return out;
+    }
     void play() { form1().BtnPlay.MouseUp(LeftButton, 0, 0, 0); }
     void pause() { form1().BtnPause.MouseUp(LeftButton, 0, 0, 0); }
     void stop() { form1().BtnStop.MouseUp(LeftButton, 0, 0, 0); }
@@ -37,7 +43,7 @@ protected:
         QString s = !playing ? "idle" : paused ? "paused" : "playing";
         const bool runs = tc.mp3.state() == FakePlayer::State::Playing;
         if (runs != (playing && !paused) || (!playing && tc.mp3.state() == FakePlayer::State::Paused))
-            s += "(the player disagrees)";
+            s += " (the player disagrees)";
         const QString file = QFileInfo(tc.mp3.openFile()).baseName();
         if (!file.isEmpty()) s += u' ' + file;
         return form1().Fading ? s + " fading" : s;

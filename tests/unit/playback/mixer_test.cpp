@@ -13,7 +13,6 @@ protected:
         prog.reset();
         program().Main();
     }
-    QStringList rows() { return form1().lstSongs.rows(); }
 };
 
 TEST_F(Mixer, FirstStartCreatesAnEmptyFileAndSavingWritesDefaultsAndQueue) {

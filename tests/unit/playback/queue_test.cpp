@@ -22,12 +22,6 @@ protected:
         for (auto& label : form1().Title) out << label->Caption();
         return out;
     }
-    QStringList rows() { return form1().lstSongs.rows(); }
-    QStringList dirs() {
-        QStringList out;
-        for (int i = 0; i < form1().lstSongs.ListCount(); ++i) out << M().SongPath[std::size_t(i)];
-        return out;
-    }
 };
 
 TEST_F(Queue, TitlePagesStepByTwelveAndKeepTheEmptyPageAfterAFullOne) {

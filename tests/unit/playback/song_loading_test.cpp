@@ -33,20 +33,18 @@ TEST_F(SongLoading, TheTagIsCutFromWhereverTagStandsInTheLastBytes) {
     const struct {
         QByteArray bytes;
         QStringList fields;  // title, artist, album, year, comment
-        int genre;
     } cases[] = {
         // Padding stays, and the comment loses its 30th character.
         {tag("Caf\xE9 \x80", "ABCDEFGHIJKLMNOPQRSTUVWXYZ0123", 2),
          {pad(QString::fromUtf8("Café €")), pad("Artist"), pad("Album"), "1999",
-          "ABCDEFGHIJKLMNOPQRSTUVWXYZ012"},
-         2},
-        // A genre number past the list leaves the selection.
-        {tag("Second", "", 200), {pad("Second"), pad("Artist"), pad("Album"), "1999", QString(29, u' ')}, 2},
+          "ABCDEFGHIJKLMNOPQRSTUVWXYZ012"}},
+        // Genre 200 lies past the list, as do the last bytes of the rows after.
+        {tag("Second", "", 200), {pad("Second"), pad("Artist"), pad("Album"), "1999", QString(29, u' ')}},
         // "TAG" 50 bytes into the block of 127: the fields are cut from there, 127 - 53 in all.
-        {moved + "!", {"Somewhere" + QString(21, 'x'), QString(30, 'x'), QString(14, 'x'), "", ""}, 2},
+        {moved + "!", {"Somewhere" + QString(21, 'x'), QString(30, 'x'), QString(14, 'x'), "", ""}},
         // Fewer than 128 bytes: what lies before the last byte is searched.
-        {"xxTAGShort one!", {"Short one", "", "", "", ""}, 2},
-        {QByteArray(400, 'x'), {"", "", "", "", ""}, 2},
+        {"xxTAGShort one!", {"Short one", "", "", "", ""}},
+        {QByteArray(400, 'x'), {"", "", "", "", ""}},
     };
     int row = 0;
     for (const auto& c : cases) {
@@ -58,9 +56,9 @@ TEST_F(SongLoading, TheTagIsCutFromWhereverTagStandsInTheLastBytes) {
                                f.txtComment.Text()}),
                   c.fields)
             << row;
-        EXPECT_EQ(f.cboGenre.ListIndex(), c.genre) << row;
         ++row;
     }
+    EXPECT_EQ(f.cboGenre.ListIndex(), 2) << "a genre number past the list leaves the selection";
     EXPECT_EQ(M().MiniTitleText, QString("S4 -  -    ").repeated(4))
         << "the row text stands in for the title";
 }

@@ -17,6 +17,12 @@ public:
 
 protected:
     void record(const QString& call) { calls_ << call; }
+    // Records "Name(a,b)": the call's name and its arguments as text. A call without arguments
+    // takes the plain record above.
+    template <typename... Args>
+    void record(const QString& name, const Args&... args) {
+        calls_ << name + u'(' + QStringList{text(args)...}.join(u',') + u')';
+    }
 
     // Work posted or timed by a fake must not run once the fake is gone: the loop may outlive
     // it. A guarded task does nothing after its owner's destruction.
@@ -28,6 +34,9 @@ protected:
     }
 
 private:
+    static QString text(const QString& s) { return s; }
+    static QString text(std::int64_t n) { return QString::number(n); }
+
     QStringList calls_;
     std::shared_ptr<int> alive_ = std::make_shared<int>(0);
 };

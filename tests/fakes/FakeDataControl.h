@@ -1,5 +1,5 @@
 #pragma once
-// The data control as the shell sees it: it keeps the three settings and records Refresh,
+// The data control as the shell sees it: it keeps the three settings and records them, Refresh,
 // Close, executed statements and created databases in the call log. Its record set is empty,
 // with no current record; the library's own tests use the real SQLite engine on temporary
 // files instead of a second, imitated one.
@@ -7,40 +7,80 @@
 
 #include "CallLog.h"
 #include "controls/DataControl.h"
+#include "controls/Errors.h"
 
 namespace sonarium {
 
 class FakeDataControl : public DataControl, public CallLog {
 public:
-    FakeDataControl();
-    ~FakeDataControl() override;
-
-    // While set, Refresh throws RuntimeError with this engine text ("" clears it).
-    void setRefreshError(const QString& text) { refreshError_ = text; }
-    // The statements executed on any database, in order.
-    QStringList statements() const { return statements_; }
-
     QString DatabaseName() const override { return databaseName_; }
-    void setDatabaseName(const QString& file) override;
+    void setDatabaseName(const QString& file) override { set("DatabaseName", databaseName_, file); }
     QString Connect() const override { return connect_; }
-    void setConnect(const QString& connect) override;
+    void setConnect(const QString& connect) override { set("Connect", connect_, connect); }
     QString RecordSource() const override { return recordSource_; }
-    void setRecordSource(const QString& source) override;
-    void Refresh() override;
-    Database& database() override { return *database_; }
-    Recordset& recordset() override { return *records_; }
-    std::unique_ptr<Database> CreateDatabase(const QString& file, const QString& locale) override;
+    void setRecordSource(const QString& source) override { set("RecordSource", recordSource_, source); }
+    void Refresh() override { record("Refresh"); }
+    Database& database() override { return database_; }
+    Recordset& recordset() override { return records_; }
+    std::unique_ptr<Database> CreateDatabase(const QString& file, const QString& locale) override {
+        record("CreateDatabase", file, locale);
+        return std::make_unique<LoggingDatabase>(*this);
+    }
 
 private:
-    class LoggingDatabase;
-    class EmptyRecords;
+    class LoggingDatabase : public Database {
+    public:
+        explicit LoggingDatabase(FakeDataControl& owner) : owner_(owner) {}
+        void Execute(const QString& statement) override { owner_.record("Execute", statement); }
+        void Close() override { owner_.record("Close"); }
+        void BeginTrans() override { owner_.record("BeginTrans"); }
+        void CommitTrans() override { owner_.record("CommitTrans"); }
+        void Rollback() override { owner_.record("Rollback"); }
+
+    private:
+        FakeDataControl& owner_;
+    };
+
+    // No rows: every move or field access fails as the engine does without a current record.
+    class EmptyRecords : public Recordset {
+    public:
+        std::int32_t RecordCount() override { return 0; }
+        std::int32_t AbsolutePosition() override { return -1; }
+        bool BOF() override { return true; }
+        bool EOF_() override { return true; }
+        void MoveFirst() override { noRecord(); }
+        void MoveLast() override { noRecord(); }
+        void MoveNext() override { noRecord(); }
+        void MovePrevious() override { noRecord(); }
+        void AddNew() override { noRecord(); }
+        void Edit() override { noRecord(); }
+        void Update() override { noRecord(); }
+        void CancelUpdate() override {}
+        void Delete() override { noRecord(); }
+        void FindFirst(const QString&) override {}
+        bool NoMatch() override { return true; }
+        int FieldCount() override { return 0; }
+        Field& Fields(int) override { noField(); }
+        Field& Fields(const QString&) override { noField(); }
+
+    private:
+        [[noreturn]] static void noRecord() {
+            throw RuntimeError(3021, QStringLiteral("No current record."));
+        }
+        [[noreturn]] static void noField() {
+            throw RuntimeError(3265, QStringLiteral("Item not found in this collection."));
+        }
+    };
+
+    void set(const char* name, QString& property, const QString& value) {
+        record(QLatin1String(name) + u'=' + value);
+        property = value;
+    }
 
     // Empty at first: the starting properties are the form's to set, as for the real one.
     QString databaseName_, connect_, recordSource_;
-    QString refreshError_;
-    QStringList statements_;
-    std::unique_ptr<Database> database_;
-    std::unique_ptr<Recordset> records_;
+    LoggingDatabase database_{*this};
+    EmptyRecords records_;
 };
 
 }  // namespace sonarium

@@ -5,6 +5,7 @@
 #include <QHash>
 
 #include "CallLog.h"
+#include "controls/Errors.h"
 #include "controls/Picture.h"
 
 namespace sonarium {
@@ -12,13 +13,26 @@ namespace sonarium {
 class FakePictureLoader : public PictureLoader, public CallLog {
 public:
     // The picture that loading `file` gives; its source becomes `file`.
-    void add(const QString& file, Picture picture);
+    void add(const QString& file, Picture picture) {
+        picture.setSource(file);
+        pictures_.insert(file.toUpper(), picture);
+    }
     // A plain picture of that size in pixels.
-    void add(const QString& file, int width, int height, std::uint32_t argb = 0xFF808080u);
+    void add(const QString& file, int width, int height, std::uint32_t argb = 0xFF808080u) {
+        add(file, Picture::filled(width, height, argb));
+    }
     // A file that exists but is no picture: loading it fails as an invalid picture.
-    void addInvalid(const QString& file);
+    void addInvalid(const QString& file) { pictures_.insert(file.toUpper(), Picture()); }
 
-    Picture load(const QString& file) override;
+    Picture load(const QString& file) override {
+        record("load", file);
+        auto it = pictures_.find(file.toUpper());
+        if (it == pictures_.end())
+            throw RuntimeError(RuntimeError::FileNotFound, QStringLiteral("File not found: %1").arg(file));
+        if (it->isNull())
+            throw RuntimeError(RuntimeError::InvalidPicture, QStringLiteral("Invalid picture: %1").arg(file));
+        return *it;
+    }
 
 private:
     QHash<QString, Picture> pictures_;  // by upper-case name; a null picture: not an image

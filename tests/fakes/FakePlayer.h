@@ -1,6 +1,6 @@
 #pragma once
 // A player on the event loop's clock, with no threads and no sound. Files are registered by
-// the test; playing moves a virtual position by one frame per frame duration.
+// the test; playing moves the position on by one frame every 26 ms at speed 100.
 //
 // Contract that tests rely on:
 // - FrameNotify(f) comes for each frame f that is a multiple of NotifyInterval, with
@@ -11,9 +11,8 @@
 //   posted, so it arrives after Stop has returned.
 // - Open of a file that was not registered fails with 1; failOpen makes a registered one fail.
 // - SetSpeed scales the frame duration (speed 50 plays twice as fast).
+// - WriteTag writes the fields set since the last Open into the file of that Open.
 #include <QHash>
-#include <QStringList>
-#include <optional>
 
 #include "CallLog.h"
 #include "controls/EventLoop.h"
@@ -31,66 +30,72 @@ struct Id3Fields {
 class FakePlayer : public Mp3Player, public CallLog {
 public:
     enum class State { Closed, Ready, Playing, Paused, Ended };
+    static constexpr int FrameMs = 26;
 
-    explicit FakePlayer(EventLoop& loop);
-    ~FakePlayer() override;
+    explicit FakePlayer(EventLoop& loop) : loop_(loop) {}
+    ~FakePlayer() override { stopClock(); }
 
     // --- Set-up (tests) ---
     // Paths are matched without regard to case, as the program finds its files.
-    void addFile(const QString& path, std::int32_t frames, float lengthSeconds,
-                 std::int32_t bitRate = 128, std::int32_t frequency = 44100,
-                 std::int16_t channelMode = 0, const Id3Fields& tag = {});
-    // The next `times` opens of the file fail with `code` (-1: every open). Call after addFile.
-    void failOpen(const QString& path, int times = -1, std::int16_t code = 1);
-    void setFrameMs(double ms) { frameMs_ = ms; }
-    // GenreName(n) gives names[n]; numbers past the list give "Genre n".
-    void setGenreNames(const QStringList& names) { genreNames_ = names; }
+    void addFile(const QString& path, std::int32_t frames, float lengthSeconds, std::int32_t bitRate = 128,
+                 std::int32_t frequency = 44100, std::int16_t channelMode = 0, const Id3Fields& tag = {}) {
+        files_.insert(path.toUpper(), File{frames, lengthSeconds, bitRate, frequency, channelMode, tag});
+    }
+    // The next `times` opens of the file fail (-1: every open). Call after addFile.
+    void failOpen(const QString& path, int times = -1) { files_[path.toUpper()].failuresLeft = times; }
 
     // --- Looking in (tests) ---
     State state() const { return state_; }
     QString openFile() const { return state_ == State::Closed ? QString() : file_; }
-    QString wavFile() const { return wav_; }
-    std::int32_t position() const;
-    std::int16_t volumeLeft() const { return volLeft_; }
-    std::int16_t volumeRight() const { return volRight_; }
-    std::int16_t speed() const { return speed_; }
-    std::int16_t notifyInterval() const { return interval_; }
     // The tag of a registered file, as WriteTag left it.
-    Id3Fields tagOf(const QString& path) const;
+    Id3Fields tagOf(const QString& path) const { return files_.value(path.toUpper()).tag; }
 
     // --- Mp3Player ---
     std::int16_t Open(const QString& file, const QString& wav) override;
     void Close() override;
     void Play() override;
-    void PlayRange(std::int32_t startFrame, std::int32_t endFrame) override;
+    // The program never plays a range; the call is only recorded.
+    void PlayRange(std::int32_t startFrame, std::int32_t endFrame) override {
+        record("PlayRange", startFrame, endFrame);
+    }
     void Pause() override;
     void Stop() override;
     std::int16_t SeekFrame(std::int32_t frame) override;
-    std::int16_t SetVolume(std::int16_t left, std::int16_t right) override;
+    std::int16_t SetVolume(std::int16_t left, std::int16_t right) override {
+        record("SetVolume", left, right);
+        return 0;
+    }
     std::int16_t SetSpeed(std::int16_t speed) override;
-    void setNotifyInterval(std::int16_t frames) override;
+    void setNotifyInterval(std::int16_t frames) override {
+        record("NotifyInterval", frames);
+        interval_ = frames;
+    }
 
-    std::int32_t FrameCount() override;
-    float Length() override;
-    std::int32_t BitRate() override;
-    std::int32_t Frequency() override;
-    std::int16_t ChannelMode() override;
+    std::int32_t FrameCount() override { return open().frames; }
+    float Length() override { return open().length; }
+    std::int32_t BitRate() override { return open().bitRate; }
+    std::int32_t Frequency() override { return open().frequency; }
+    std::int16_t ChannelMode() override { return open().channelMode; }
 
-    QString TagTitle() override { return openTag().title; }
-    QString TagArtist() override { return openTag().artist; }
-    QString TagAlbum() override { return openTag().album; }
-    QString TagComment() override { return openTag().comment; }
-    std::int16_t TagYear() override { return openTag().year; }
-    std::int16_t TagGenre() override { return openTag().genre; }
-    QString GenreName(std::int16_t genre) override;
+    QString TagTitle() override { return open().tag.title; }
+    QString TagArtist() override { return open().tag.artist; }
+    QString TagAlbum() override { return open().tag.album; }
+    QString TagComment() override { return open().tag.comment; }
+    std::int16_t TagYear() override { return open().tag.year; }
+    std::int16_t TagGenre() override { return open().tag.genre; }
+    QString GenreName(std::int16_t genre) override { return QStringLiteral("Genre %1").arg(genre); }
 
-    void SetTagTitle(const QString& v) override;
-    void SetTagArtist(const QString& v) override;
-    void SetTagAlbum(const QString& v) override;
-    void SetTagComment(const QString& v) override;
-    void SetTagYear(std::int16_t v) override;
-    void SetTagGenre(std::int16_t v) override;
-    void WriteTag() override;
+    void SetTagTitle(const QString& v) override { edit("SetTagTitle", tag_.title, v); }
+    void SetTagArtist(const QString& v) override { edit("SetTagArtist", tag_.artist, v); }
+    void SetTagAlbum(const QString& v) override { edit("SetTagAlbum", tag_.album, v); }
+    void SetTagComment(const QString& v) override { edit("SetTagComment", tag_.comment, v); }
+    void SetTagYear(std::int16_t v) override { edit("SetTagYear", tag_.year, v); }
+    void SetTagGenre(std::int16_t v) override { edit("SetTagGenre", tag_.genre, v); }
+    // The tag as the last Open read it, with the fields set since, into that Open's file.
+    void WriteTag() override {
+        record("WriteTag");
+        if (files_.contains(file_.toUpper())) files_[file_.toUpper()].tag = tag_;
+    }
 
 private:
     struct File {
@@ -100,43 +105,33 @@ private:
         std::int16_t channelMode = 0;
         Id3Fields tag;
         int failuresLeft = 0;  // -1: always
-        std::int16_t failCode = 1;
     };
-    // Tag fields set since the last Open, for WriteTag.
-    struct TagEdit {
-        std::optional<QString> title, artist, album, comment;
-        std::optional<std::int16_t> year, genre;
-    };
-
-    static QString key(const QString& path) { return path.toUpper(); }
-    const File* open() const;
-    Id3Fields openTag() const;
-    double frameDuration() const;
-    void startRun(std::int32_t from, std::int32_t to);
-    void rebase();  // restart the clock of a run at the current position
-    void schedule();
-    void cancelTimer();
-    void tick();
+    template <typename T>
+    void edit(const char* call, T& field, const T& value) {
+        record(call, value);
+        field = value;
+    }
+    // The open file; with none, a file of nothing.
+    const File& open() const;
+    void startRun(std::int32_t from);
+    void startClock();
+    void stopClock();
+    void nextFrame();
     void endRun();
     void raiseStreamEnd(StreamEndRule::Token token);
     void closeFile();  // ends a run that plays or is paused, then closes
 
     EventLoop& loop_;
-    QHash<QString, File> files_;
-    QStringList genreNames_;
-    double frameMs_ = 26.0;
+    QHash<QString, File> files_;  // by upper-case path
 
     State state_ = State::Closed;
     StreamEndRule ends_;
     StreamEndRule::Token runToken_ = 0;
-    QString file_, wav_, tagTarget_;
-    TagEdit edit_;
-    std::int32_t pos_ = 0;         // position when not playing; start of the clock's count when playing
-    std::int32_t end_ = 0;
-    std::int64_t runStartMs_ = 0;
-    std::int32_t lastNotified_ = 0;
+    QString file_;  // it stays WriteTag's target after Close
+    Id3Fields tag_;  // for WriteTag
+    std::int32_t pos_ = 0, end_ = 0;
     EventLoop::TimerId timer_ = 0;
-    std::int16_t volLeft_ = 0, volRight_ = 0, speed_ = 100, interval_ = 32;
+    std::int16_t speed_ = 100, interval_ = 32;
 };
 
 }  // namespace sonarium

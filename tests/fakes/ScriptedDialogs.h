@@ -23,22 +23,16 @@ public:
         QString title;  // message and input boxes
         MsgButtons buttons = MsgButtons::OK;
         MsgIcon icon = MsgIcon::None;
-        QString defaultText;      // input box default; directory pick: start directory
-        FileDialogRequest file;   // file dialogs
-        std::optional<Color> initialColor;
-        QStringList entries;      // popup: Names of the visible entries offered
+        FileDialogRequest file;  // file dialogs
     };
 
-    ~ScriptedDialogs() override = default;
-
     // --- Script (each adds one answer at the end) ---
-    ScriptedDialogs& answer(MsgResult result);
-    ScriptedDialogs& answerInput(const QString& text);
-    ScriptedDialogs& answerFile(const QString& fileName);  // open or save; "" cancels
-    ScriptedDialogs& answerColor(std::optional<Color> color);
-    ScriptedDialogs& answerPrinter(bool ok);
-    ScriptedDialogs& answerDirectory(const QString& dir);
-    ScriptedDialogs& answerPopup(const QString& entryName);  // "" dismisses the menu
+    ScriptedDialogs& answer(MsgResult result) { return script(Kind::MsgBox, {}, result); }
+    ScriptedDialogs& answerInput(const QString& text) { return script(Kind::InputBox, text); }
+    // Open or save; "" cancels.
+    ScriptedDialogs& answerFile(const QString& fileName) { return script(Kind::OpenFile, fileName); }
+    // "" dismisses the menu.
+    ScriptedDialogs& answerPopup(const QString& entryName) { return script(Kind::Popup, entryName); }
     // Message boxes with only an OK button take OK without a scripted answer.
     void setAutoAnswerOk(bool on) { autoOk_ = on; }
 
@@ -46,35 +40,58 @@ public:
     const std::vector<Shown>& shown() const { return shown_; }
     // The text of each dialog shown, in order.
     QStringList texts() const;
-    // Scripted answers not taken yet.
-    int unanswered() const { return int(script_.size()); }
     void clear() { shown_.clear(), script_.clear(); }
 
     // --- Dialogs ---
     MsgResult msgBox(const QString& text, MsgButtons buttons, MsgIcon icon, const QString& title) override;
-    QString inputBox(const QString& prompt, const QString& title, const QString& defaultText) override;
-    QString openFile(const FileDialogRequest& request) override;
-    QString saveFile(const FileDialogRequest& request) override;
-    std::optional<Color> chooseColor(Color initial) override;
-    bool printerSetup() override;
-    QString chooseDirectory(const QString& prompt, const QString& startDir) override;
+    QString inputBox(const QString& prompt, const QString& title, const QString&) override {
+        return take(of(Kind::InputBox, prompt, title)).text;
+    }
+    QString openFile(const FileDialogRequest& request) override {
+        return fileDialog(Kind::OpenFile, request);
+    }
+    QString saveFile(const FileDialogRequest& request) override {
+        return fileDialog(Kind::SaveFile, request);
+    }
     MenuItem* popupMenu(MenuItem& menu) override;
+    // No test scripts a colour, a printer or a directory: these fail the test and are cancelled.
+    std::optional<Color> chooseColor(Color) override {
+        take(of(Kind::Color));
+        return std::nullopt;
+    }
+    bool printerSetup() override {
+        take(of(Kind::Printer));
+        return false;
+    }
+    QString chooseDirectory(const QString& prompt, const QString&) override {
+        return take(of(Kind::Directory, prompt)).text;
+    }
 
 private:
-    enum class AnswerKind { Msg, Text, File, Color, Printer, Directory, Popup };
     struct Answer {
-        AnswerKind kind = AnswerKind::Msg;
-        MsgResult result = MsgResult::Cancel;
+        Kind kind = Kind::MsgBox;
         QString text;
-        std::optional<Color> color;
-        bool ok = false;
+        MsgResult result = MsgResult::Cancel;
+        bool given = false;  // false: the cancelling answer of an unexpected dialog
     };
 
-    static Answer answerOf(AnswerKind kind, const QString& text = {});
-    // Records the dialog and takes the next answer if it is of the kind wanted; otherwise
-    // fails the test and gives nothing.
-    std::optional<Answer> take(Shown shown, AnswerKind wanted);
-    QString fileDialog(Kind kind, const FileDialogRequest& request);
+    static Shown of(Kind kind, const QString& text = {}, const QString& title = {}) {
+        Shown s;
+        s.kind = kind, s.text = text, s.title = title;
+        return s;
+    }
+    ScriptedDialogs& script(Kind kind, const QString& text, MsgResult result = MsgResult::Cancel) {
+        script_.push_back(Answer{kind, text, result, true});
+        return *this;
+    }
+    // Records the dialog and takes the next answer if it is of the dialog's kind; otherwise
+    // fails the test and gives the cancelling answer.
+    Answer take(Shown shown);
+    QString fileDialog(Kind kind, const FileDialogRequest& request) {
+        Shown s = of(kind, request.title);
+        s.file = request;
+        return take(std::move(s)).text;
+    }
 
     std::deque<Answer> script_;
     std::vector<Shown> shown_;

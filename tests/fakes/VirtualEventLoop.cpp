@@ -25,37 +25,21 @@ constexpr int kMaxPassesWithoutTime = 100000;
     throw WaitStuck(("wait cannot make progress: " + why).toStdString());
 }
 
-class DepthGuard {
-public:
-    DepthGuard(int& depth, int max) : depth_(depth) {
-        if (depth_ >= max)
-            stuck(QStringLiteral("more than %1 nested waits; a handler keeps waiting inside "
-                                 "itself").arg(max));
-        ++depth_;
-    }
-    ~DepthGuard() { --depth_; }
-
-private:
-    int& depth_;
-};
+// One more open wait for the life of the result; past `max` nested waits the loop gives up.
+auto enterWait(int& depth, int max) {
+    if (depth >= max)
+        stuck(QStringLiteral("more than %1 nested waits; a handler keeps waiting inside itself").arg(max));
+    ++depth;
+    return std::unique_ptr<int, decltype([](int* d) { --*d; })>(&depth);
+}
 
 }  // namespace
-
-VirtualEventLoop::VirtualEventLoop() : wallBase_(QDate(2024, 1, 1), QTime(12, 0)) {}
-
-VirtualEventLoop::~VirtualEventLoop() = default;
-
-QDateTime VirtualEventLoop::wallClock() const { return wallBase_.addMSecs(now_); }
-
-void VirtualEventLoop::setWallClock(const QDateTime& dt) { wallBase_ = dt.addMSecs(-now_); }
 
 VirtualEventLoop::Key VirtualEventLoop::schedule(std::int64_t due, Item item) {
     Key key{due, nextSeq_++};
     queue_.emplace(key, std::move(item));
     return key;
 }
-
-void VirtualEventLoop::post(Task fn) { schedule(now_, Item{0, std::move(fn)}); }
 
 EventLoop::TimerId VirtualEventLoop::startTimer(int intervalMs, Task fn, bool singleShot) {
     // A repeating timer of 0 ms would fall due again at the same instant for ever; like a busy
@@ -73,10 +57,6 @@ void VirtualEventLoop::stopTimer(TimerId id) {
     if (it == timers_.end()) return;
     queue_.erase(it->second->pending);
     timers_.erase(it);
-}
-
-bool VirtualEventLoop::hasReady() const {
-    return !queue_.empty() && queue_.begin()->first.due <= now_;
 }
 
 void VirtualEventLoop::runItem(std::map<Key, Item>::iterator it) {
@@ -102,11 +82,8 @@ void VirtualEventLoop::runTimerTick(TimerId id) {
         ++dropped_;
         return;
     }
-    struct Open {
-        TimerState& t;
-        explicit Open(TimerState& s) : t(s) { t.open = true; }
-        ~Open() { t.open = false; }
-    } open(*t);
+    t->open = true;
+    const std::unique_ptr<TimerState, decltype([](TimerState* s) { s->open = false; })> closing(t.get());
     t->fn();
 }
 
@@ -122,12 +99,12 @@ void VirtualEventLoop::runPass() {
 }
 
 void VirtualEventLoop::doEvents() {
-    DepthGuard guard(depth_, maxDepth_);
+    const auto wait = enterWait(depth_, maxDepth_);
     runPass();
 }
 
 void VirtualEventLoop::waitUntil(const std::function<bool()>& done) {
-    DepthGuard guard(depth_, maxDepth_);
+    const auto wait = enterWait(depth_, maxDepth_);
     const std::int64_t start = now_;
     int passes = 0;
     while (!done()) {
@@ -137,8 +114,7 @@ void VirtualEventLoop::waitUntil(const std::function<bool()>& done) {
             runPass();
             continue;
         }
-        if (queue_.empty())
-            stuck(QStringLiteral("nothing is scheduled (at %1 ms)").arg(now_));
+        if (queue_.empty()) stuck(QStringLiteral("nothing is scheduled (at %1 ms)").arg(now_));
         const std::int64_t next = queue_.begin()->first.due;
         if (next > start + waitLimit_)
             stuck(QStringLiteral("nothing falls due within %1 ms of the wait's start at %2 ms "
@@ -168,26 +144,6 @@ void VirtualEventLoop::runUntilIdle() {
             stuck(QStringLiteral("work keeps posting more work at %1 ms").arg(now_));
         runItem(queue_.begin());
     }
-}
-
-void VirtualEventLoop::traceLine(const QString& line) {
-    trace_ << QString(traceDepth_ * 2, QLatin1Char(' ')) + line;
-}
-
-void VirtualEventLoop::traceEnter(const QString& what) {
-    if (!tracing_) return;
-    traceLine("enter " + what);
-    ++traceDepth_;
-}
-
-void VirtualEventLoop::traceExit(const QString& what) {
-    if (!tracing_) return;
-    traceDepth_ = std::max(traceDepth_ - 1, 0);
-    traceLine("exit " + what);
-}
-
-void VirtualEventLoop::traceNote(const QString& what) {
-    if (tracing_) traceLine(what);
 }
 
 }  // namespace sonarium

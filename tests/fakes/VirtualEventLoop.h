@@ -9,7 +9,6 @@
 // Single-threaded: unlike the real loop, post() here is not meant to be called from threads.
 #include <QDateTime>
 #include <QString>
-#include <QStringList>
 #include <map>
 #include <memory>
 
@@ -19,13 +18,10 @@ namespace sonarium {
 
 class VirtualEventLoop : public EventLoop {
 public:
-    VirtualEventLoop();
-    ~VirtualEventLoop() override;
-
     std::int64_t now() const override { return now_; }
     // The base set by setWallClock, moved on by the virtual clock.
-    QDateTime wallClock() const override;
-    void post(Task fn) override;
+    QDateTime wallClock() const override { return wallBase_.addMSecs(now_); }
+    void post(Task fn) override { schedule(now_, Item{0, std::move(fn)}); }
     TimerId startTimer(int intervalMs, Task fn, bool singleShot = false) override;
     void stopTimer(TimerId id) override;
     void doEvents() override;
@@ -38,7 +34,7 @@ public:
     // Runs all that is due now, including work posted meanwhile; the clock does not move.
     void runUntilIdle();
     // The wall clock reads `dt` at this moment, and moves on with the virtual clock.
-    void setWallClock(const QDateTime& dt);
+    void setWallClock(const QDateTime& dt) { wallBase_ = dt.addMSecs(-now_); }
     // How far a wait may move the clock on, counted from the moment the wait began.
     void setWaitLimit(std::int64_t ms) { waitLimit_ = ms; }
     // How many doEvents/waitUntil may nest before the loop gives up.
@@ -53,16 +49,6 @@ public:
     // Number of doEvents/waitUntil currently open.
     int depth() const { return depth_; }
 
-    // --- Trace of handler nesting ---
-    // Handlers call traceEnter/traceExit (or hold a TraceScope); lines are indented two spaces
-    // per open scope: "enter Play", "  enter StreamEnd", "  exit StreamEnd", "exit Play".
-    void enableTrace(bool on) { tracing_ = on; }
-    void traceEnter(const QString& what);
-    void traceExit(const QString& what);
-    void traceNote(const QString& what);
-    QStringList trace() const { return trace_; }
-    void clearTrace() { trace_.clear(), traceDepth_ = 0; }
-
 private:
     struct Key {
         std::int64_t due;
@@ -76,42 +62,23 @@ private:
     };
 
     Key schedule(std::int64_t due, Item item);
-    bool hasReady() const;
+    bool hasReady() const { return !queue_.empty() && queue_.begin()->first.due <= now_; }
     // One pass over the items ready now, in order; items removed meanwhile are skipped.
     void runPass();
     // Takes the item out of the queue and runs it.
     void runItem(std::map<Key, Item>::iterator it);
     void runTimerTick(TimerId id);
-    void traceLine(const QString& line);
 
     std::map<Key, Item> queue_;
     std::map<TimerId, std::shared_ptr<TimerState>> timers_;
     std::int64_t now_ = 0;
     std::uint64_t nextSeq_ = 0;
     TimerId lastTimer_ = 0;
-    QDateTime wallBase_;
+    QDateTime wallBase_{QDate(2024, 1, 1), QTime(12, 0)};
     std::int64_t waitLimit_ = 60000;
     int maxDepth_ = 64;
     int depth_ = 0;
     int dropped_ = 0;
-    bool tracing_ = false;
-    int traceDepth_ = 0;
-    QStringList trace_;
-};
-
-// Records "enter <what>" now and "exit <what>" when the scope ends (also on an exception).
-class TraceScope {
-public:
-    TraceScope(VirtualEventLoop& loop, QString what) : loop_(loop), what_(std::move(what)) {
-        loop_.traceEnter(what_);
-    }
-    ~TraceScope() { loop_.traceExit(what_); }
-    TraceScope(const TraceScope&) = delete;
-    TraceScope& operator=(const TraceScope&) = delete;
-
-private:
-    VirtualEventLoop& loop_;
-    QString what_;
 };
 
 }  // namespace sonarium

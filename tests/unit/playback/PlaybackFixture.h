@@ -1,6 +1,7 @@
 #pragma once
-// The started program with a queue of fake songs in /m/ and numbered button pictures, so a test
-// can tell which picture of the image list a button shows.
+// The started program with a queue of fake songs in /m/.
+#include <QFileInfo>
+
 #include "ProgramFixture.h"
 
 namespace sonarium {
@@ -13,9 +14,6 @@ protected:
     void SetUp() override {
         ProgramFixture::SetUp();
         program().Main();
-        for (int i = 1; i <= 24; ++i) form1().ImageListB.Add(i, Picture::filled(1, 1, 0xFF000000u + i));
-        form1().imgGreenBall.setPicture(Picture::filled(1, 1, 0xFF00FF00u));
-        form1().imgRedBall.setPicture(Picture::filled(1, 1, 0xFFFF0000u));
         tc.dialogs.clear();
     }
 
@@ -27,15 +25,29 @@ protected:
             if (!dir.isEmpty()) tc.mp3.addFile(dir + t + ".MP3", SongFrames, SongMs / 1000.0f);
         }
     }
+    QStringList rows() { return form1().lstSongs.rows(); }
+    QStringList dirs() {
+        QStringList out;
+        for (int i = 0; i < form1().lstSongs.ListCount(); ++i) out << M().SongPath[std::size_t(i)];
+        return out;
+    }
     void play() { form1().BtnPlay.MouseUp(LeftButton, 0, 0, 0); }
     void pause() { form1().BtnPause.MouseUp(LeftButton, 0, 0, 0); }
     void stop() { form1().BtnStop.MouseUp(LeftButton, 0, 0, 0); }
+    void fade() { form1().BtnFade.MouseUp(LeftButton, 0, 0, 0); }
 
-    // True when the control shows picture `index` of the image list.
-    bool shows(const Image& control, int index) {
-        return control.picture().sameAs(form1().ImageListB.ListImage(index));
+    // The transport as the program holds it, then the file the player holds: "playing B",
+    // "playing A fading", "idle". The player's own state must agree with the program's.
+    QString transport() {
+        const bool playing = M().SongPlaying, paused = M().SongPaused;
+        QString s = !playing ? "idle" : paused ? "paused" : "playing";
+        const bool runs = tc.mp3.state() == FakePlayer::State::Playing;
+        if (runs != (playing && !paused) || (!playing && tc.mp3.state() == FakePlayer::State::Paused))
+            s += " (the player disagrees)";
+        const QString file = QFileInfo(tc.mp3.openFile()).baseName();
+        if (!file.isEmpty()) s += u' ' + file;
+        return form1().Fading ? s + " fading" : s;
     }
-    int count(const QString& call) const { return int(tc.mp3.calls().count(call)); }
 };
 
 }  // namespace sonarium

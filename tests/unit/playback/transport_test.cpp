@@ -1,6 +1,12 @@
-// The transport's states and their pictures, the nesting of StreamEnd inside the waits, the
-// dead ends of a paused song, and what follows a song by the loop mode and "Stop After Song".
+// The transport's states under its buttons, the desktop's media commands and a click on a row;
+// what follows the end of a song; the end of a stream inside the waits; the close that waits
+// for a paused song; the loop popup; and what the media controls read and set.
+#include <QUrl>
+#include <cmath>
+
 #include "PlaybackFixture.h"
+#include "integration/fixtures/Id3v1Block.h"
+#include "playback/MediaControls.h"
 
 using namespace sonarium;
 
@@ -8,139 +14,84 @@ namespace {
 
 using Transport = PlaybackFixture;
 
-TEST_F(Transport, ThePlayPauseStopCycleWalksTheStateTable) {
-    queue({"A", "B"});
-    Form1& f = form1();
+// What one action leaves, from each of three starts: nothing loaded, B playing, B paused.
+struct Transition {
+    const char* action;
+    const char* fromIdle;
+    const char* fromPlaying;
+    const char* fromPaused;
+};
 
-    f.BtnPlay.MouseDown(LeftButton, 0, 0, 0);
-    EXPECT_TRUE(shows(f.BtnPlay, 2));
-    play();  // Idle -> Playing
-    EXPECT_TRUE(M().SongPlaying);
-    EXPECT_EQ(tc.mp3.state(), FakePlayer::State::Playing);
-    EXPECT_EQ(tc.mp3.openFile(), "/m/A.MP3");
-    EXPECT_TRUE(shows(f.BtnPlay, 24));
-    EXPECT_TRUE(shows(f.imgMS, 18)) << "a stereo file";
-    EXPECT_TRUE(f.Ball.picture().sameAs(f.imgGreenBall.picture()));
-    EXPECT_FALSE(f.cmdShuffle.Visible());
-    EXPECT_TRUE(f.TimerMix.Enabled());
-    EXPECT_EQ(f.Caption(), "A");
-    EXPECT_EQ(f.SavedVolume, 35);
-    EXPECT_TRUE(tc.mp3.calls().contains("SetVolume(35,35)"));
+class Transitions : public PlaybackFixture, public testing::WithParamInterface<std::tuple<Transition, int>> {
+protected:
+    void act(const QString& action) {
+        MediaControls mc(form1());
+        const std::map<QString, std::function<void()>> actions = {
+            {"Play", [&] { play(); }},
+            {"Pause", [&] { pause(); }},
+            {"Stop", [&] { stop(); }},
+            {"Fade", [&] { fade(); }},
+            {"media play", [&] { mc.play(); }},
+            {"media pause", [&] { mc.pause(); }},
+            {"media playPause", [&] { mc.playPause(); }},
+            {"media stop", [&] { mc.stop(); }},
+            {"media next", [&] { mc.next(); }},
+            {"media previous", [&] { mc.previous(); }},
+            {"click C", [&] { form1().lstSongs.setListIndex(2); }},
+        };
+        for (const QString& step : action.split(QStringLiteral(", "))) actions.at(step)();
+    }
+};
 
-    tc.mp3.clearCalls();
-    play();  // Playing: the picture only
-    EXPECT_TRUE(shows(f.BtnPlay, 1));
-    EXPECT_TRUE(tc.mp3.calls().isEmpty());
-
-    f.BtnPause.MouseDown(LeftButton, 0, 0, 0);
-    EXPECT_TRUE(shows(f.BtnPause, 8));
-    pause();  // Playing -> Paused
-    EXPECT_TRUE(M().SongPaused);
-    EXPECT_TRUE(shows(f.BtnPause, 9));
-    EXPECT_EQ(tc.mp3.calls(), QStringList({"Pause"}));
-    f.BtnPause.MouseDown(LeftButton, 0, 0, 0);
-    EXPECT_TRUE(shows(f.BtnPause, 10));
-
-    // Paused: Play, Stop and Fade do nothing, not even their pressed pictures.
-    tc.mp3.clearCalls();
-    f.BtnStop.setPicture(Picture());
-    f.BtnStop.MouseDown(LeftButton, 0, 0, 0);
-    stop();
-    f.BtnFade.MouseUp(LeftButton, 0, 0, 0);
-    play();
-    EXPECT_TRUE(f.BtnStop.picture().isNull());
-    EXPECT_TRUE(tc.mp3.calls().isEmpty());
-    EXPECT_FALSE(f.Fading);
-    EXPECT_FALSE(f.StopRequested);
-    EXPECT_TRUE(M().SongPlaying && M().SongPaused);
-
-    pause();  // Paused -> Playing
-    EXPECT_FALSE(M().SongPaused);
-    EXPECT_TRUE(shows(f.BtnPause, 7));
-    EXPECT_EQ(tc.mp3.calls(), QStringList({"Play"}));
-
-    tc.loop.advance(1000);
-    stop();  // Playing -> Stopping -> Idle, within the handler
-    EXPECT_FALSE(M().SongPlaying);
-    EXPECT_FALSE(f.StopRequested) << "cleared by the end of the stream";
-    EXPECT_TRUE(shows(f.BtnStop, 3));
-    EXPECT_TRUE(shows(f.BtnPlay, 1));
-    EXPECT_TRUE(f.Ball.picture().sameAs(f.imgRedBall.picture()));
-    EXPECT_TRUE(f.cmdShuffle.Visible());
-    EXPECT_TRUE(f.imgMS.picture().isNull());
-    EXPECT_FALSE(f.TimerMix.Enabled());
-    EXPECT_EQ(f.imgButtonSong.Left(), 3705);
-    EXPECT_EQ(M().CurrentSong, 0) << "a stopped song is followed by none";
-    EXPECT_EQ(tc.mp3.state(), FakePlayer::State::Closed);
-    tc.loop.advance(10 * SongMs);
-    EXPECT_FALSE(M().SongPlaying);
-}
-
-TEST_F(Transport, FadeMarksTheSongAsEndingAndItsEndRestoresTheVolume) {
-    queue({"A", "B"});
-    Form1& f = form1();
-    f.BtnFade.MouseDown(LeftButton, 0, 0, 0);
-    EXPECT_TRUE(f.BtnFade.picture().isNull()) << "nothing plays";
-    f.BtnFade.MouseUp(LeftButton, 0, 0, 0);
-    EXPECT_FALSE(f.Fading);
-
-    play();
-    f.BtnFade.MouseDown(LeftButton, 0, 0, 0);
-    EXPECT_TRUE(shows(f.BtnFade, 6));
-    f.BtnFade.MouseUp(LeftButton, 0, 0, 0);
-    EXPECT_TRUE(shows(f.BtnFade, 5));
-    EXPECT_TRUE(f.Fading && f.StopRequested);
-    M().Volume = 12;  // as the fade leaves it
-    tc.loop.advance(SongMs + 10);
-    EXPECT_FALSE(M().SongPlaying);
-    EXPECT_FALSE(f.Fading);
-    EXPECT_EQ(M().Volume, 35);
-    EXPECT_EQ(tc.mp3.calls().last(), "SetVolume(35,35)");
-    EXPECT_EQ(f.SLiderVolume.Top(), 802) << "(100 - 35) * 8.1 + 275";
-    EXPECT_EQ(M().CurrentSong, 0) << "a fade ends the chain";
-}
-
-TEST_F(Transport, StreamEndRunsInsideTheStopWaitAndTheNextPlayInsideStreamEnd) {
+TEST_P(Transitions, EachActionActsOnlyWhereItsButtonWould) {
+    const auto& [t, start] = GetParam();
     queue({"A", "B", "C"});
-    Form1& f = form1();
-    tc.loop.enableTrace(true);
-    auto streamEnd = tc.mp3.onStreamEnd;
-    tc.mp3.onStreamEnd = [&] {
-        TraceScope scope(tc.loop, "StreamEnd");
-        const int plays = count("Play");
-        streamEnd();
-        tc.loop.traceNote(
-            QStringLiteral("started %1, playing %2").arg(count("Play") - plays).arg(M().SongPlaying));
-    };
-    auto stopUp = f.BtnStop.onMouseUp;
-    f.BtnStop.onMouseUp = [&](int b, int s, double x, double y) {
-        TraceScope scope(tc.loop, "Stop");
-        stopUp(b, s, x, y);
-    };
-    auto click = f.lstSongs.onClick;
-    f.lstSongs.onClick = [&] {
-        TraceScope scope(tc.loop, QStringLiteral("click %1").arg(f.lstSongs.ListIndex()));
-        click();
-    };
-
-    play();  // selects row 0 itself
-    tc.loop.advance(SongMs + 10);
-    EXPECT_EQ(tc.mp3.openFile(), "/m/B.MP3");
-    stop();
-    EXPECT_EQ(tc.loop.trace(), QStringList({"enter click 0", "exit click 0", "enter StreamEnd",
-                                            "  enter click 1", "  exit click 1", "  started 1, playing 1",
-                                            "exit StreamEnd", "enter Stop", "  enter StreamEnd",
-                                            "    started 0, playing 0", "  exit StreamEnd", "exit Stop"}));
-    EXPECT_EQ(M().CurrentSong, 1);
+    if (start > 0) {
+        form1().lstSongs.setListIndex(1);
+        play();
+        tc.loop.advance(500);
+    }
+    if (start > 1) pause();
+    act(t.action);
+    const QString after = QString::fromLatin1(start == 0   ? t.fromIdle
+                                              : start == 1 ? t.fromPlaying
+                                                           : t.fromPaused);
+    EXPECT_EQ(transport(), after);
+    const QString word = after.section(u' ', 0, 0);
+    EXPECT_EQ(MediaControls(form1()).status(), word == "idle"     ? "Stopped"
+                                               : word == "paused" ? "Paused"
+                                                                  : "Playing");
+    EXPECT_TRUE(tc.dialogs.shown().empty());
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, Transitions,
+    testing::Combine(testing::Values(
+                         // The Play button starts the first row when none is selected.
+                         Transition{"Play", "playing A", "playing B", "paused B"},
+                         Transition{"Pause", "idle", "paused B", "playing B"},
+                         // A stopped song is closed; a paused one cannot be stopped or faded.
+                         Transition{"Stop", "idle", "idle", "paused B"},
+                         Transition{"Fade", "idle", "playing B fading", "paused B"},
+                         Transition{"media play", "playing A", "playing B", "playing B"},
+                         Transition{"media pause", "idle", "paused B", "paused B"},
+                         Transition{"media playPause", "playing A", "paused B", "playing B"},
+                         Transition{"media stop", "idle", "idle", "paused B"},
+                         // Next and previous are clicks on the neighbouring rows: loaded, and
+                         // started only while a song plays.
+                         Transition{"media next", "idle A", "playing C", "paused C"},
+                         Transition{"media previous", "idle", "playing A", "paused A"},
+                         Transition{"click C", "idle C", "playing C", "paused C"},
+                         // Resumed, the song that replaced the paused one plays.
+                         Transition{"click C, Pause", "idle C", "paused C", "playing C"}),
+                     testing::Values(0, 1, 2)));
 
 struct FollowCase {
     int row;
     int loopMode;
     bool stopAfter;
     int nextSong;
-    bool playing;
-    const char* open;  // the file the player holds afterwards
+    const char* after;
 };
 
 class WhatFollows : public PlaybackFixture, public testing::WithParamInterface<FollowCase> {};
@@ -155,31 +106,44 @@ TEST_P(WhatFollows, TheRowTheLoopModeAndStopAfterSongDecide) {
     tc.loop.advance(SongMs + 10);
     EXPECT_EQ(M().CurrentSong, c.nextSong);
     EXPECT_EQ(form1().lstSongs.ListIndex(), c.nextSong);
-    EXPECT_EQ(M().SongPlaying, c.playing);
-    EXPECT_EQ(tc.mp3.openFile(), QString::fromLatin1(c.open));
+    EXPECT_EQ(transport(), c.after);
     EXPECT_FALSE(form1().StopRequested);
     EXPECT_TRUE(tc.dialogs.shown().empty());
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Rows, WhatFollows,
-    testing::Values(FollowCase{0, 0, false, 1, true, "/m/B.MP3"},
-                    FollowCase{0, 0, true, 1, false, "/m/B.MP3"},  // loaded and selected, not started
-                    FollowCase{0, 1, false, 1, true, "/m/B.MP3"},
-                    FollowCase{0, 2, false, 0, true, "/m/A.MP3"},
-                    FollowCase{0, 2, true, 0, false, ""},   // the same row again: no click, nothing loaded
-                    FollowCase{2, 0, false, 2, false, ""},  // the last row ends the queue
-                    FollowCase{2, 1, false, 0, true, "/m/A.MP3"},  // wraps
-                    FollowCase{2, 1, true, 0, true,
-                               "/m/A.MP3"},  // Stop After Song is not looked at in the last row
-                    FollowCase{2, 2, true, 2, true, "/m/C.MP3"}));
+    testing::Values(FollowCase{0, 0, false, 1, "playing B"},
+                    FollowCase{0, 0, true, 1, "idle B"},  // loaded and selected, not started
+                    FollowCase{0, 1, false, 1, "playing B"}, FollowCase{0, 2, false, 0, "playing A"},
+                    FollowCase{0, 2, true, 0, "idle"},        // the same row: no click, nothing loaded
+                    FollowCase{2, 0, false, 2, "idle"},       // the last row ends the queue
+                    FollowCase{2, 1, false, 0, "playing A"},  // wraps
+                    // Stop After Song is not looked at in the last row.
+                    FollowCase{2, 1, true, 0, "playing A"}, FollowCase{2, 2, true, 2, "playing C"}));
+
+TEST_F(Transport, StreamEndRunsInsideTheStopWaitAndStartsTheNextSongItself) {
+    queue({"A", "B", "C"});
+    QStringList ends;
+    auto streamEnd = tc.mp3.onStreamEnd;
+    tc.mp3.onStreamEnd = [&] {
+        const int depth = tc.loop.depth();
+        streamEnd();
+        ends << QStringLiteral("in %1 waits: %2").arg(depth).arg(transport());
+    };
+    play();
+    tc.loop.advance(SongMs + 10);
+    stop();
+    EXPECT_EQ(ends, QStringList({"in 0 waits: playing B", "in 1 waits: idle"}));
+    EXPECT_EQ(M().CurrentSong, 1);
+}
 
 TEST_F(Transport, AQueueEmptiedDuringPlayEndsQuietlyOrAsksForSongsWhenLooping) {
     queue({"A", "B"});
     play();
     form1().lstSongs.Clear();
     tc.loop.advance(SongMs + 10);
-    EXPECT_FALSE(M().SongPlaying);
+    EXPECT_EQ(transport(), "idle");
     EXPECT_TRUE(tc.dialogs.shown().empty());
 
     queue({"A"});
@@ -189,89 +153,110 @@ TEST_F(Transport, AQueueEmptiedDuringPlayEndsQuietlyOrAsksForSongsWhenLooping) {
     tc.dialogs.setAutoAnswerOk(true);
     form1().PanelDatabase.setVisible(false);
     tc.loop.advance(SongMs + 10);
-    ASSERT_EQ(tc.dialogs.shown().size(), 1u);
-    const auto& msg = tc.dialogs.shown()[0];
-    EXPECT_EQ(msg.text, "Nothing in song queue - Click on a song title to add it to the song queue");
-    EXPECT_EQ(msg.title, "Play");
-    EXPECT_EQ(msg.icon, MsgIcon::Information);
-    EXPECT_FALSE(M().SongPlaying);
-
     form1().PanelDatabase.setVisible(true);
     play();
-    EXPECT_EQ(tc.dialogs.shown().back().text,
-              "Nothing in song queue - Select a title in the database, and click the 'Add to queue' button");
+    EXPECT_EQ(
+        tc.dialogs.texts(),
+        QStringList({"Nothing in song queue - Click on a song title to add it to the song queue",
+                     "Nothing in song queue - Select a title in the database, and click the 'Add to queue' "
+                     "button"}));
+    EXPECT_EQ(tc.dialogs.shown()[0].title, "Play");
+    EXPECT_EQ(transport(), "idle");
 }
 
-TEST_F(Transport, AClickOnARowSwitchesAtOnceWhilePlayingAndOnlyReloadsWhilePaused) {
+TEST_F(Transport, ClosingWhilePausedWaitsForTheResumedSongAndCommandsMeanwhileStartNothing) {
     queue({"A", "B", "C"});
-    play();
-    tc.loop.advance(500);
-    form1().lstSongs.setListIndex(2);
-    EXPECT_EQ(M().CurrentSong, 2);
-    EXPECT_TRUE(M().SongPlaying);
-    EXPECT_EQ(tc.mp3.openFile(), "/m/C.MP3");
-    EXPECT_EQ(tc.mp3.state(), FakePlayer::State::Playing);
-    EXPECT_EQ(form1().Caption(), "C");
+    MediaControls mc(form1());
+    mc.play();
+    tc.loop.post([&] { mc.next(); });  // runs inside Stop's wait for the end of the stream
+    mc.stop();
+    EXPECT_EQ(transport(), "idle");
+    EXPECT_EQ(form1().lstSongs.ListIndex(), 0);
 
-    pause();
-    tc.mp3.clearCalls();
-    form1().lstSongs.setListIndex(0);  // Stop and Play do nothing; the file is replaced
-    EXPECT_FALSE(tc.mp3.calls().contains("Stop"));
-    EXPECT_FALSE(tc.mp3.calls().contains("Play"));
-    EXPECT_EQ(tc.mp3.openFile(), "/m/A.MP3");
-    EXPECT_TRUE(M().SongPlaying && M().SongPaused);
-    pause();  // the new song plays from its start
-    EXPECT_EQ(tc.mp3.state(), FakePlayer::State::Playing);
-    EXPECT_EQ(tc.mp3.position(), 0);
-}
-
-TEST_F(Transport, ClosingWhilePausedWaitsUntilTheSongIsResumedAndEnds) {
-    queue({"A"});
-    play();
-    pause();
+    mc.play();
+    mc.pause();
     bool savedWhilePaused = true;
+    int rowInClose = -2;
     tc.loop.startTimer(
         5000,
         [&] {
             savedWhilePaused = QFile::exists(path("Config.dat"));
+            mc.next();
+            rowInClose = form1().lstSongs.ListIndex();
             pause();  // the user resumes
         },
         true);
     form1().QueryUnload();
     EXPECT_FALSE(savedWhilePaused);
+    EXPECT_EQ(rowInClose, 0);
     EXPECT_TRUE(QFile::exists(path("Config.dat")));
     EXPECT_GE(tc.loop.now(), 5000 + SongMs);
     EXPECT_EQ(tc.desktop.quitCode(), 0);
 }
 
-TEST_F(Transport, TheLoopPopupSetsTheModeAndStopAfterSongToggles) {
+TEST_F(Transport, TheLoopPopupSetsTheMode) {
     Form1& f = form1();
-    tc.dialogs.answerPopup("mnuLoopSong")
-        .answerPopup("mnuLoopSongSet")
-        .answerPopup("mnuLoopOff")
-        .answerPopup("");
-    f.chkLoop.Click();
-    EXPECT_EQ(M().LoopMode, 2);
-    EXPECT_TRUE(f.mnuLoopSong.Checked());
-    EXPECT_FALSE(f.mnuLoopSongSet.Checked());
-    EXPECT_TRUE(f.chkLoop.picture().sameAs(f.imgGreenBall.picture()));
-    f.chkLoop.Click();
-    EXPECT_EQ(M().LoopMode, 1);
-    EXPECT_TRUE(f.mnuLoopSongSet.Checked());
-    EXPECT_FALSE(f.mnuLoopSong.Checked());
-    f.chkLoop.Click();
-    EXPECT_EQ(M().LoopMode, 0);
-    EXPECT_FALSE(f.mnuLoopSongSet.Checked() || f.mnuLoopSong.Checked());
-    EXPECT_TRUE(f.chkLoop.picture().sameAs(f.imgRedBall.picture()));
-    f.chkLoop.Click();  // dismissed
-    EXPECT_EQ(M().LoopMode, 0);
-    EXPECT_EQ(tc.dialogs.shown()[0].entries, QStringList({"mnuLoopSongSet", "mnuLoopSong", "mnuLoopOff",
-                                                          "mnuLoopSep1", "mnuStopAfterSong"}));
+    for (auto [entry, mode] :
+         {std::pair{"mnuLoopSong", 2}, {"mnuLoopSongSet", 1}, {"mnuLoopOff", 0}, {"", 0}}) {
+        tc.dialogs.answerPopup(entry);
+        f.chkLoop.Click();
+        EXPECT_EQ(M().LoopMode, mode) << entry;
+        EXPECT_EQ(f.mnuLoopSong.Checked(), mode == 2);
+        EXPECT_EQ(f.mnuLoopSongSet.Checked(), mode == 1);
+    }
+}
 
-    f.mnuStopAfterSong.Click();
-    EXPECT_TRUE(f.mnuStopAfterSong.Checked());
-    f.mnuStopAfterSong.Click();
-    EXPECT_FALSE(f.mnuStopAfterSong.Checked());
+TEST_F(Transport, TheMediaControlsSeeTheLoadedRowsSongItsTagTrimmedAndItsFileAsFound) {
+    MediaControls mc(form1());
+    EXPECT_EQ(mc.song().row, -1) << "nothing loaded yet";
+    EXPECT_FALSE(mc.canPlay()) << "an empty queue";
+
+    // A file on disk in another case than the row names, its tag padded with blanks and NULs.
+    write("Blue Monday.mp3",
+          QByteArray(400, 'x') + fixtures::id3v1Block("Caf\xE9", "The Artist   ", "", "1999", "", 1));
+    queue({"Blue Monday"}, dir.path() + "/");
+    tc.mp3.addFile(dir.path() + "/Blue Monday.MP3", 7180, 187.4f);
+    queue({"Untagged"});
+    EXPECT_TRUE(mc.canPlay() && mc.canGoNext());
+    EXPECT_FALSE(mc.canPause() || mc.canGoPrevious());
+    form1().lstSongs.setListIndex(0);
+    const SongInfo song = mc.song();
+    EXPECT_EQ(song.row, 0);
+    EXPECT_EQ(song.title, QString::fromUtf8("Café"));
+    EXPECT_EQ(song.artist, "The Artist");
+    EXPECT_EQ(song.album, "") << "a blank field is no album";
+    EXPECT_EQ(song.url, "file://" + QString::fromLatin1(QUrl::toPercentEncoding(dir.path(), "/")) +
+                            "/Blue%20Monday.mp3");
+    EXPECT_EQ(song.lengthUs, 187'000'000);
+    EXPECT_EQ(mc.positionUs(), 0) << "nothing plays";
+    play();
+    form1().LastFrame = 380;  // 38 frames a second
+    EXPECT_EQ(mc.positionUs(), 10'000'000);
+
+    form1().lstSongs.setListIndex(1);
+    EXPECT_EQ(mc.song().title, "Untagged") << "the row's text stands in for a missing title";
+    EXPECT_EQ(mc.song().url, "file:///m/Untagged.MP3");
+    EXPECT_FALSE(mc.canGoNext());
+    form1().lstSongs.Clear();  // the loaded file belongs to no row now
+    EXPECT_EQ(mc.song().row, -1);
+}
+
+TEST_F(Transport, TheMediaVolumeActsAsTheSliderAndKeepsAFadesSavedLevel) {
+    queue({"A"});
+    MediaControls mc(form1());
+    EXPECT_DOUBLE_EQ(mc.volume(), 0.35);
+    for (auto [set, volume] : {std::pair{0.504, 50}, {7.0, 100}, {-0.5, 0}, {std::nan(""), 0}, {0.8, 80}}) {
+        mc.setVolume(set);
+        EXPECT_EQ(M().Volume, volume) << set;
+        EXPECT_EQ(tc.mp3.calls().last(), QStringLiteral("SetVolume(%1,%1)").arg(volume));
+        EXPECT_EQ(form1().SavedVolume, volume);
+    }
+    play();
+    fade();
+    mc.setVolume(0.2);
+    EXPECT_EQ(M().Volume, 20);
+    tc.loop.advance(SongMs + 10);
+    EXPECT_EQ(M().Volume, 80) << "the fade's end brings back the level from before it";
 }
 
 }  // namespace

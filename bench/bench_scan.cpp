@@ -156,8 +156,6 @@ double floorLoop(const QStringList& files) {
 // The scan command over the drive `root`, into a new library in `home`; `message` gets the
 // count message.
 double scan(const QString& root, const QString& home, QString& message) {
-    const QString before = QDir::currentPath();
-    QDir::setCurrent(home);
     RealPlayerProgram<SqliteDataControl> parts{std::chrono::minutes(30)};
     parts.dialogs.setAutoAnswerOk(true);
     // The tree is a drive of its own, as a music disk would be: the walk starts at its top.
@@ -174,7 +172,6 @@ double scan(const QString& root, const QString& home, QString& message) {
     const double ms = timeMs([&] { program.form1.cmdSearch.Click(); });
     message = parts.dialogs.texts().value(0);
     parts.program.reset();
-    QDir::setCurrent(before);
     return ms;
 }
 

@@ -1,6 +1,5 @@
 #include "app/Application.h"
 
-#include <QDir>
 #include <QGuiApplication>
 #include <QTimer>
 
@@ -28,28 +27,16 @@ void Application::prepareProcess() {
 
 QString commandLineOf(const QStringList& arguments) { return arguments.mid(1).join(QLatin1Char(' ')); }
 
-Application::Application(const QStringList& arguments)
+Application::Application(const QStringList& arguments, const QString& startDir)
     : loop_(errors_),
       mp3_(loop_, createAudioSink, tone_, peakLevel_),
       mp32_(loop_, createAudioSink, tone_, peakLevel_),
       mixer_(tone_),
       peak_(peakLevel_),
-      components_{loop_,
-                  dialogs_,
-                  desktop_,
-                  pictures_,
-                  volumes_,
-                  mp3_,
-                  mp32_,
-                  encoder_,
-                  cd_,
-                  mixer_,
-                  peak_,
-                  data_,
-                  processes_,
-                  errors_,
-                  commandLineOf(arguments),
-                  QDir::currentPath()},
+      // clang-format off
+      components_{loop_, dialogs_, desktop_, pictures_, volumes_, mp3_, mp32_, encoder_, cd_, mixer_, peak_,
+                  data_, processes_, errors_, commandLineOf(arguments), startDir},
+      // clang-format on
       program_(components_),
       views_(program_),
       signals_([this] { program_.form1.EndOnSignal(); }, std::chrono::seconds(3)),

@@ -36,8 +36,9 @@ public:
     // high-DPI factors are rounded so skin pieces keep whole pixels.
     static void prepareProcess();
 
-    // `arguments` as the process got them, the program's name first.
-    explicit Application(const QStringList& arguments);
+    // `arguments` as the process got them, the program's name first; `startDir` the directory
+    // the program starts in, where its own files live.
+    Application(const QStringList& arguments, const QString& startDir);
     ~Application();
 
     // Runs the program's entry procedure once the event loop is running. The process ends

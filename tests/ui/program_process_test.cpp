@@ -103,17 +103,15 @@ TEST_F(ProgramProcess, ASongPlaysAndTheWindowsCloseEndsTheProgram) {
     if (QStandardPaths::findExecutable("lame").isEmpty())
         GTEST_SKIP() << "lame is needed (tools/common.sh installs it)";
     ASSERT_TRUE(makeSong(path("Tone.MP3")));
-    const QString was = QDir::currentPath();
     const QByteArray sessionBus = qgetenv("DBUS_SESSION_BUS_ADDRESS");
     qunsetenv("DBUS_SESSION_BUS_ADDRESS");
     qputenv("SONARIUM_AUDIO", "null");
-    QDir::setCurrent(home.path());
     QApplication::setQuitOnLastWindowClosed(false);
     QString time;
     bool closeRefused = false;
     int exitCode = -1;
     {
-        Application application({"sonarium", path("Tone.MP3")});
+        Application application({"sonarium", path("Tone.MP3")}, home.path());
         MainWindow& window = application.views().main();
         application.start();
         // Once the song has played a second, the user closes the window.
@@ -130,7 +128,6 @@ TEST_F(ProgramProcess, ASongPlaysAndTheWindowsCloseEndsTheProgram) {
         giveUp.start(20000);
         exitCode = QApplication::exec();
     }
-    QDir::setCurrent(was);
     QApplication::setQuitOnLastWindowClosed(true);
     qunsetenv("SONARIUM_AUDIO");
     if (!sessionBus.isEmpty()) qputenv("DBUS_SESSION_BUS_ADDRESS", sessionBus);

@@ -165,14 +165,14 @@ const LengthCase kCases[] = {
      [] { return constantRate(128, 600) + QByteArray(2000, '\0') + fixtureTag(); }},
 };
 
-class Mp3LengthTest : public ::testing::TestWithParam<LengthCase> {
+class PlayerLengthTest : public ::testing::TestWithParam<LengthCase> {
 protected:
     QTemporaryDir dir;
 };
 
 // The survey against libmpg123, then the player's count, length, rate and tag, and its decoding
 // against the tool's: the same samples, every 32nd frame notified, then one StreamEnd.
-TEST_P(Mp3LengthTest, SurveyPlayerAndDecodingAgreeWithTheTool) {
+TEST_P(PlayerLengthTest, SurveyPlayerAndDecodingAgreeWithTheTool) {
     const LengthCase& c = GetParam();
     const QString mp3 = dir.filePath("song.mp3");
     QByteArray bytes;
@@ -236,7 +236,7 @@ TEST_P(Mp3LengthTest, SurveyPlayerAndDecodingAgreeWithTheTool) {
     EXPECT_EQ(h.frames, notified);
 }
 
-INSTANTIATE_TEST_SUITE_P(Files, Mp3LengthTest, ::testing::ValuesIn(kCases),
+INSTANTIATE_TEST_SUITE_P(Files, PlayerLengthTest, ::testing::ValuesIn(kCases),
                          [](const auto& info) { return std::string(info.param.name); });
 
 }  // namespace

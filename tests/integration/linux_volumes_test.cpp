@@ -6,7 +6,7 @@
 
 using namespace sonarium;
 
-TEST(LinuxVolumes, RootFirstThenMediaThenOtherRealFileSystemsAndNoPseudoOnes) {
+TEST(LinuxVolumes, RootFirstThenMediaThenOtherRealFileSystemsAndNoPseudoOnesElseTheRoot) {
     const QByteArray table =
         "proc /proc proc rw 0 0\n"
         "/dev/sda2 /home ext4 rw 0 0\n"
@@ -21,10 +21,8 @@ TEST(LinuxVolumes, RootFirstThenMediaThenOtherRealFileSystemsAndNoPseudoOnes) {
     QStringList roots;
     for (const Volume& vol : v) roots << vol.root;
     EXPECT_EQ(roots, QStringList({"/", "/media/me/My Stick", "/mnt/cdrom", "/home"}));
-}
 
-TEST(LinuxVolumes, AnEmptyOrUnreadableTableStillHasTheRoot) {
-    EXPECT_EQ(LinuxVolumes::fromMountTable("").size(), 1u);
+    // A table that can't be read still has the root.
     LinuxVolumes missing(QStringLiteral("/nonexistent/mounts"));
     ASSERT_FALSE(missing.list().empty());
     EXPECT_EQ(missing.list().front().root, "/");

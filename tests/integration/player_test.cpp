@@ -1,8 +1,9 @@
-// The real player on MP3 files made at test time: exact counts and bit-exact decoding against
-// the mpg123 tool, ranges, notifications, one StreamEnd per run across the threads, pause,
-// seek, speed and volume through the paced null sink, a device lost mid-song, and bad files
-// that must neither crash, hang nor change.
+// The real player on MP3 files made at test time: ranges decoded bit-exact against the mpg123
+// tool, notifications, one StreamEnd per run across the threads, pause, seek, speed and volume
+// through the paced null sink, a device lost mid-song, and bad files that must neither crash,
+// hang nor change. Each kind of file decoded whole against the tool is the length test's.
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 
 #include <QDir>
 #include <QFile>
@@ -12,7 +13,6 @@
 #include <chrono>
 #include <functional>
 #include <memory>
-#include <sys/stat.h>
 
 #include "engine/audio/FallbackSink.h"
 #include "fixtures/Files.h"
@@ -26,22 +26,17 @@ namespace {
 
 using namespace fixtures;
 
-// The standard files, made on first use and shared by the tests of the process: encoding is
-// the slow part.
-struct PlayerFiles {
-    static QString mp3(const char* name) {
-        static const auto dir = [] {
-            auto d = std::make_unique<QTemporaryDir>();
-            for (const auto& r : standardRecipes())
-                if (!makeMp3(d->filePath(QString(r.name) + ".mp3"), r)) ADD_FAILURE() << r.name;
-            return d;
-        }();
-        return dir->filePath(QString(name) + ".mp3");
-    }
-};
+// The two songs the tests play, 2 s at 44.1 kHz, made on first use and shared by the tests of
+// the process: encoding is the slow part. The CBR one has no Info frame, so frame f is samples
+// f*1152.. of its WAV.
+QString song(bool vbr = false) {
+    static const QTemporaryDir dir;
+    const QString path = dir.filePath(vbr ? "vbr.mp3" : "cbr.mp3");
+    if (!QFileInfo::exists(path) && !makeMp3(path, {.vbr = vbr})) ADD_FAILURE() << "could not encode " << vbr;
+    return path;
+}
 
-constexpr const char* kCbr = "cbr128_44k_joint";  // 2 s, no Info frame: frame f is samples f*1152..
-constexpr int kSamplesPerFrame = 1152;            // MPEG-1 layer III
+constexpr int kSamplesPerFrame = 1152;  // MPEG-1 layer III
 
 std::vector<int> range(int first, int last, int step = 1) {
     std::vector<int> v;
@@ -50,55 +45,15 @@ std::vector<int> range(int first, int last, int step = 1) {
 }
 
 // Decodes `mp3` to `wav` through the player: Open, the given start, then wait for the end.
-void decodeWithPlayer(PlayerHarness& h, const QString& mp3, const QString& wav,
-                      const std::function<void(Mp3Play&)>& start = [](Mp3Play& p) { p.Play(); }) {
+void decodeWithPlayer(
+    PlayerHarness& h, const QString& mp3, const QString& wav,
+    const std::function<void(Mp3Play&)>& start = [](Mp3Play& p) { p.Play(); }) {
     ASSERT_EQ(h.player.Open(mp3, wav), 0);
     const int ended = h.ends;
     start(h.player);
     h.waitForEnds(ended + 1);
     h.settle();
 }
-
-// --- Every standard file: counts, details and decoding against the tool ---
-
-class PlayerFileTest : public ::testing::TestWithParam<Mp3Recipe> {
-protected:
-    QTemporaryDir out;
-    PlayerHarness h;
-};
-
-TEST_P(PlayerFileTest, CountsDetailsAndWavMatchTheTool) {
-    const Mp3Recipe s = GetParam();
-    const QString mp3 = PlayerFiles::mp3(s.name);
-    const QString ours = out.filePath("ours.wav"), theirs = out.filePath("theirs.wav");
-    ASSERT_EQ(mpg123ToWav(mp3, theirs), 0);
-    ASSERT_EQ(mpg123ToWav(mp3, out.filePath("raw.wav"), {"--no-gapless"}), 0);
-    const WavFile toolRaw = readWav(out.filePath("raw.wav"));
-
-    ASSERT_EQ(h.player.Open(mp3, ""), 0);
-    // Without gapless trimming the tool writes every frame whole: its frame count.
-    const int frameCount = int(toolRaw.frames() / kSamplesPerFrame);
-    EXPECT_EQ(h.player.FrameCount(), frameCount);
-    EXPECT_NEAR(h.player.Length(), double(readWav(theirs).frames()) / s.rate, 1e-4);
-    EXPECT_EQ(h.player.Frequency(), s.rate);
-    EXPECT_EQ(h.player.ChannelMode(), s.channels == 1 ? 3 : (s.joint ? 1 : 0));
-    const double bytesRate = double(QFileInfo(mp3).size() - (s.id3v1 ? 128 : 0)) * 8 / h.player.Length() / 1000;
-    EXPECT_NEAR(h.player.BitRate(), s.vbr ? bytesRate : s.kbps, s.vbr ? 2.0 : 0.0);
-    EXPECT_EQ(h.player.TagTitle(), s.id3v1 ? "Sweep" : "");
-    EXPECT_EQ(h.player.TagGenre(), s.id3v1 ? 17 : 255);
-
-    // The same header and samples as the tool's; every 32nd frame from 0 notified, then one
-    // StreamEnd, last.
-    h.player.setNotifyInterval(32);
-    decodeWithPlayer(h, mp3, ours);
-    EXPECT_TRUE(fileBytes(ours) == fileBytes(theirs)) << "the WAV differs from the tool's";
-    EXPECT_EQ(h.frames, range(0, frameCount - 1, 32));
-    EXPECT_EQ(h.events.last(), "end");
-    EXPECT_EQ(h.ends, 1);
-}
-
-INSTANTIATE_TEST_SUITE_P(Fixtures, PlayerFileTest, ::testing::ValuesIn(standardRecipes()),
-                         [](const auto& info) { return std::string(info.param.name); });
 
 // --- Decoding to WAV: ranges, seek, stop, names ---
 
@@ -110,24 +65,21 @@ protected:
 };
 
 TEST_F(PlayerWavTest, PlayRangeWritesExactlyTheFramesAskedAndNotifiesEach) {
-    const QString mp3 = PlayerFiles::mp3(kCbr);
+    const QString mp3 = song();
     ASSERT_EQ(mpg123ToWav(mp3, wav("tool.wav"), {"--no-gapless", "-k", "10", "-n", "20"}), 0);
     h.player.setNotifyInterval(1);
     decodeWithPlayer(h, mp3, wav("range.wav"), [](Mp3Play& p) { p.PlayRange(10, 29); });
-    const WavFile mine = readWav(wav("range.wav"));
-    EXPECT_EQ(mine.frames(), 20 * kSamplesPerFrame);
-    EXPECT_TRUE(mine.data == readWav(wav("tool.wav")).data) << "frames 10..29 differ from the tool's";
+    EXPECT_TRUE(readWav(wav("range.wav")).data == readWav(wav("tool.wav")).data) << "frames 10..29 differ";
     EXPECT_EQ(h.frames, range(10, 29));
     EXPECT_EQ(h.ends, 1);
 
     // Clamped to the file; an end before the start plays nothing and still ends, once.
     h.clear();
+    ASSERT_EQ(h.player.Open(mp3, ""), 0);
+    const int frames = h.player.FrameCount();
     decodeWithPlayer(h, mp3, wav("all.wav"), [](Mp3Play& p) { p.PlayRange(-5, 1000000); });
-    const WavFile all = readWav(wav("all.wav"));
-    const int frames = int(all.frames() / kSamplesPerFrame);
     EXPECT_EQ(h.frames, range(0, frames - 1));
-    EXPECT_TRUE(all.data.mid(10 * kSamplesPerFrame * 4, 20 * kSamplesPerFrame * 4) == mine.data);
-    for (auto [first, last] : {std::pair{30, 10}, std::pair{frames + 5, frames + 9}, std::pair{3, -1}}) {
+    for (auto [first, last] : {std::pair{30, 10}, std::pair{frames + 5, frames + 9}}) {
         h.clear();
         decodeWithPlayer(h, mp3, wav("empty.wav"), [=](Mp3Play& p) { p.PlayRange(first, last); });
         EXPECT_EQ(fileBytes(wav("empty.wav")).size(), 44) << "a header and no samples";
@@ -138,12 +90,12 @@ TEST_F(PlayerWavTest, PlayRangeWritesExactlyTheFramesAskedAndNotifiesEach) {
     // below 1 counts as 1.
     h.clear();
     h.player.setNotifyInterval(0);
-    decodeWithPlayer(h, PlayerFiles::mp3("vbr_44k_joint"), wav("vbr.wav"), [](Mp3Play& p) { p.PlayRange(40, 70); });
+    decodeWithPlayer(h, song(true), wav("vbr.wav"), [](Mp3Play& p) { p.PlayRange(40, 70); });
     EXPECT_EQ(h.frames, range(40, 70));
 }
 
 TEST_F(PlayerWavTest, SeekBeforePlayStopMidwayAndFileNames) {
-    const QString mp3 = PlayerFiles::mp3(kCbr);
+    const QString mp3 = song();
     decodeWithPlayer(h, mp3, wav("full.wav"));
     const QByteArray full = readWav(wav("full.wav")).data;
 
@@ -182,7 +134,8 @@ TEST_F(PlayerWavTest, SeekBeforePlayStopMidwayAndFileNames) {
     decodeWithPlayer(h, out.filePath("SONG.MP3"), out.filePath("New Name.WAV"));
     decodeWithPlayer(h, out.filePath("song.Mp3"), out.filePath("OLD.WAV"));
     const QStringList files = QDir(out.path()).entryList(QDir::Files);
-    EXPECT_TRUE(files.contains("New Name.WAV") && !files.contains("OLD.WAV")) << files.join(", ").toStdString();
+    EXPECT_TRUE(files.contains("New Name.WAV") && !files.contains("OLD.WAV"))
+        << files.join(", ").toStdString();
     EXPECT_TRUE(readWav(out.filePath("old.wav")).data == full);
     // Decoding a file into itself is refused before anything is written.
     EXPECT_EQ(h.player.Open(out.filePath("Song.mp3"), out.filePath("SONG.MP3")), 1);
@@ -204,7 +157,7 @@ protected:
         h.player.Play();
         h.waitForFrame(1);
     }
-    QString mp3 = PlayerFiles::mp3(kCbr);
+    QString mp3 = song();
     PlayerHarness h;
 };
 
@@ -267,7 +220,8 @@ TEST_F(PlayerRunTest, PauseHoldsThePositionAndSeekMovesIt) {
     ASSERT_EQ(h.player.SeekFrame(70), 0);
     const std::size_t before = h.frames.size();
     h.waitForEnds();
-    EXPECT_EQ(std::vector<int>(h.frames.begin() + long(before), h.frames.end()), range(70, h.player.FrameCount() - 1));
+    EXPECT_EQ(std::vector<int>(h.frames.begin() + long(before), h.frames.end()),
+              range(70, h.player.FrameCount() - 1));
     EXPECT_LT(h.frames[before - 1], 20);
 
     // A seek while paused moves the position; Play resumes there.
@@ -300,14 +254,13 @@ TEST_F(PlayerRunTest, SpeedVolumeAndPeakThroughTheSink) {
     EXPECT_GT(playRange(0, 15), 2 * fast) << "speed 200 should take about four times as long as 50";
     h.player.SetSpeed(100);
 
-    // Volume 0 sends silence; 100 the signal at its own level (a sweep at half scale).
-    h.player.SetVolume(0, 0);
+    // At its own level the sweep reaches half scale; volume 0 sends silence.
     h.peak.takeReading();
     playRange(10, 14);
-    EXPECT_EQ(h.peak.takeReading(), 0);
-    h.player.SetVolume(100, 100);
-    playRange(10, 14);
     EXPECT_NEAR(h.peak.takeReading(), PeakLevel::Maximum / 2, PeakLevel::Maximum / 8);
+    h.player.SetVolume(0, 0);
+    playRange(10, 14);
+    EXPECT_EQ(h.peak.takeReading(), 0);
 }
 
 // A sound device that plays at real-time pace until its write number `failAt`, where it fails
@@ -334,9 +287,10 @@ struct FailingDevice : AudioDevice {
 
 TEST(PlayerSinkTest, ADeviceLostMidSongLeavesTheRestToTheSilentOutputAtTheSongsPace) {
     std::atomic<int> writes{0};
-    PlayerHarness h([&] { return std::make_unique<FallbackSink>(std::make_unique<FailingDevice>(10, writes)); });
+    PlayerHarness h(
+        [&] { return std::make_unique<FallbackSink>(std::make_unique<FailingDevice>(10, writes)); });
     h.player.setNotifyInterval(1);
-    ASSERT_EQ(h.player.Open(PlayerFiles::mp3(kCbr), ""), 0);
+    ASSERT_EQ(h.player.Open(song(), ""), 0);
     const int frames = h.player.FrameCount();
     const double length = h.player.Length();
     const auto t0 = std::chrono::steady_clock::now();
@@ -357,49 +311,37 @@ TEST(PlayerSinkTest, ADeviceLostMidSongLeavesTheRestToTheSilentOutputAtTheSongsP
 // player makes of a few: refused, or played to the end and the sink, the file untouched.
 TEST(PlayerBadInputTest, NeverCrashesHangsOrChangesTheFile) {
     QTemporaryDir dir;
-    const QByteArray good = fileBytes(PlayerFiles::mp3(kCbr));
-    const std::pair<const char*, QByteArray> refused[] = {
-        {"zero-length", QByteArray()},
-        {"text", QByteArray("Not a song.\r\nJust some text.\r\n").repeated(200)},
+    const QByteArray good = fileBytes(song());
+    struct Bad {
+        const char* name;
+        QByteArray bytes;
+        bool plays;  // refused at Open, or played to its end
     };
-    const std::pair<const char*, QByteArray> played[] = {
-        {"truncated", good.left(good.size() * 2 / 5 + 77)},
-        {"damaged", QByteArray(good).replace(good.size() / 2, 3000, QByteArray(3000, '\xA5'))},
+    const Bad files[] = {
+        {"zero-length", QByteArray(), false},
+        {"text", QByteArray("Not a song.\r\nJust some text.\r\n").repeated(200), false},
+        {"truncated", good.left(good.size() * 2 / 5 + 77), true},
+        {"damaged", QByteArray(good).replace(good.size() / 2, 3000, QByteArray(3000, '\xA5')), true},
     };
-    for (const auto& [name, bytes] : refused) {
-        SCOPED_TRACE(name);
-        const QString path = dir.filePath(QString(name) + ".mp3");
-        ASSERT_TRUE(writeFile(path, bytes));
+    for (const Bad& f : files) {
+        SCOPED_TRACE(f.name);
+        const QString path = dir.filePath(QString(f.name) + ".mp3");
+        ASSERT_TRUE(writeFile(path, f.bytes));
         PlayerHarness h;
-        EXPECT_EQ(h.player.Open(path, dir.filePath("out.wav")), 1);
-        EXPECT_EQ(h.player.FrameCount(), 0);
+        EXPECT_EQ(h.player.Open(path, dir.filePath("out.wav")), f.plays ? 0 : 1);
+        EXPECT_EQ(h.player.FrameCount() > 0, f.plays);
         h.player.Play();
+        if (f.plays) h.waitForEnds();
         h.player.Stop();
         h.settle();
-        EXPECT_EQ(h.ends, 0);
-        EXPECT_TRUE(fileBytes(path) == bytes) << "the file was changed";
-    }
-    for (const auto& [name, bytes] : played) {
-        SCOPED_TRACE(name);
-        const QString path = dir.filePath(QString(name) + ".mp3");
-        ASSERT_TRUE(writeFile(path, bytes));
-        PlayerHarness h;
-        ASSERT_EQ(h.player.Open(path, dir.filePath("out.wav")), 0);
-        h.player.Play();
-        h.waitForEnds();
-        // Played to the sink as well, the last frames and past them.
-        ASSERT_EQ(h.player.Open(path, ""), 0);
-        h.player.PlayRange(h.player.FrameCount() - 3, h.player.FrameCount() + 3);
-        h.waitForEnds(2);
-        h.settle();
-        EXPECT_TRUE(fileBytes(path) == bytes) << "the file was changed";
+        EXPECT_EQ(h.ends, f.plays ? 1 : 0);
+        EXPECT_TRUE(fileBytes(path) == f.bytes) << "the file was changed";
     }
 
     // Missing files, directories and a FIFO (which must not wait for a writer) fail too.
     PlayerHarness h;
     EXPECT_EQ(h.player.Open(dir.filePath("missing.mp3"), ""), 1);
     EXPECT_EQ(h.player.Open(dir.path(), ""), 1);
-    EXPECT_EQ(h.player.Open("", ""), 1);
     const QString fifo = dir.filePath("pipe.mp3");
     ASSERT_EQ(::mkfifo(QFile::encodeName(fifo).constData(), 0600), 0);
     EXPECT_EQ(h.player.Open(fifo, ""), 1);
@@ -407,7 +349,7 @@ TEST(PlayerBadInputTest, NeverCrashesHangsOrChangesTheFile) {
 
     // The decoder opens the file only to play it: one gone by then ends the run at once.
     const QString gone = dir.filePath("gone.mp3");
-    ASSERT_TRUE(QFile::copy(PlayerFiles::mp3(kCbr), gone));
+    ASSERT_TRUE(QFile::copy(song(), gone));
     ASSERT_EQ(h.player.Open(gone, dir.filePath("gone.wav")), 0);
     ASSERT_TRUE(QFile::remove(gone));
     h.player.setNotifyInterval(1);

@@ -10,6 +10,7 @@
 
 #include "engine/data/SqliteDataControl.h"
 #include "engine/id3/Id3v1Genres.h"
+#include "fixtures/Files.h"
 #include "fixtures/Mp3Fixtures.h"
 #include "fixtures/RealPlayerProgram.h"
 
@@ -37,34 +38,27 @@ protected:
     // One two-second file made by the encoder, copied with each song's own tag after it: 6
     // directories of 50 songs, some in lower case, some with texts of the tag's code page.
     void makeTree() {
-        Mp3Recipe recipe;
-        recipe.rate = 22050;
-        recipe.channels = 1;
-        recipe.kbps = 32;
-        const QByteArray audio = untaggedMp3(dir.filePath(QStringLiteral("base.bin")), recipe);
-        ASSERT_FALSE(audio.isEmpty());
-        for (int d = 0; d < 6; ++d) {
-            const QString sub = d < 3 ? QStringLiteral("Disc %1").arg(d) : QStringLiteral("Disc 1/Part %1").arg(d);
+        const QString base = dir.filePath(QStringLiteral("base.bin"));
+        ASSERT_TRUE(makeMp3(base, {.rate = 22050, .channels = 1, .kbps = 32}));
+        const QByteArray audio = fileBytes(base);
+        QFile::remove(base);
+        for (int i = 0; i < 300; ++i) {
+            const QString sub = i < 150 ? QStringLiteral("Disc %1").arg(i / 50)
+                                        : QStringLiteral("Disc 1/Part %1").arg(i / 50);
+            const QString name = QStringLiteral("Song %1").arg(i, 3, 10, QLatin1Char('0'));
+            const QString file = dir.filePath(sub + u'/' + name + (i % 7 == 0 ? ".mp3" : ".MP3"));
+            // Title, artist, album, comment, year.
+            const QByteArrayList tag = {
+                "Title " + QByteArray::number(i),
+                i % 5 ? "Artist " + QByteArray::number(i % 13) : QByteArray("Beyonc\xe9"),
+                "Album " + QByteArray::number(i % 17),
+                i % 3 ? "Comment " + QByteArray::number(i) : QByteArray(), QByteArray::number(1970 + i % 50)};
+            const int genre = i % 80;
             ASSERT_TRUE(QDir(dir.path()).mkpath(sub));
-            for (int n = 0; n < 50; ++n) {
-                const int i = d * 50 + n;
-                const QString name = QStringLiteral("Song %1").arg(i, 3, 10, QLatin1Char('0'));
-                const QString file = dir.filePath(sub + u'/' + name + (i % 7 == 0 ? ".mp3" : ".MP3"));
-                const QByteArray title = "Title " + QByteArray::number(i);
-                const QByteArray artist = i % 5 == 0 ? QByteArray("Beyonc\xe9") : "Artist " + QByteArray::number(i % 13);
-                const QByteArray album = "Album " + QByteArray::number(i % 17);
-                const QByteArray year = QByteArray::number(1970 + i % 50);
-                const QByteArray comment = i % 3 == 0 ? QByteArray() : "Comment " + QByteArray::number(i);
-                const int genre = i % 80;
-                QFile out(file);
-                ASSERT_TRUE(out.open(QIODevice::WriteOnly));
-                out.write(audio + id3v1Block(title, artist, album, year, comment, static_cast<unsigned char>(genre)));
-                expected[file] = QStringList{dir.filePath(sub), name} +
-                                 QStringList{QString::fromLatin1(title), QString::fromLatin1(artist),
-                                             QString::fromLatin1(album), QString::fromLatin1(comment),
-                                             id3v1GenreName(genre),      "00:02",
-                                             QString::fromLatin1(year)};
-            }
+            ASSERT_TRUE(writeFile(file, audio + id3v1Block(tag[0], tag[1], tag[2], tag[4], tag[3], genre)));
+            QStringList row = {dir.filePath(sub), name};
+            for (const QByteArray& text : tag.first(4)) row << QString::fromLatin1(text);
+            expected[file] = row << id3v1GenreName(genre) << "00:02" << QString::fromLatin1(tag[4]);
         }
     }
 

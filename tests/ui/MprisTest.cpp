@@ -1,8 +1,7 @@
 // The media controls on a private session bus, driven by the desktop's own command-line
-// client: status, play-pause, next, metadata and volume reach the program, and a change made
-// in the window reaches a client that follows it. What each command does and what the song's
-// fields hold is MediaControlsTest's to check; the program without a bus runs in
-// program_process_test.
+// client: a command reaches the program, and the status, read and then followed, changes
+// with a pause made in the window. What each command does and what each property holds is
+// MediaControlsTest's to check; the program without a bus runs in program_process_test.
 #include <QDBusConnection>
 #include <QElapsedTimer>
 #include <QEventLoop>
@@ -47,10 +46,8 @@ protected:
 
         program().Main();
         settle();
-        for (const QString name : {"Blue Night", "Harbour Lights"}) {
-            tc.mp3.addFile(path(name + ".MP3"), 7800, 204.0f);
-            form1().AddToQueue(name, dir.path() + "/");
-        }
+        tc.mp3.addFile(path("Blue Night.MP3"), 7800, 204.0f);
+        form1().AddToQueue("Blue Night", dir.path() + "/");
         controls = std::make_unique<MediaControls>(form1());
         service = MprisService::start(*controls, {&main()}, *bus);
         ASSERT_NE(service, nullptr);
@@ -70,15 +67,6 @@ protected:
         p.setProcessEnvironment(env);
         p.start("playerctl", QStringList{"-p", "sonarium"} + args);
     }
-    // One run of the client; its output, trimmed.
-    QString playerctl(const QStringList& args) {
-        QProcess p;
-        startClient(p, args);
-        const bool finished = spinUntil([&] { return p.state() == QProcess::NotRunning; });
-        EXPECT_TRUE(finished) << args.join(' ').toStdString();
-        EXPECT_EQ(p.exitCode(), 0) << args.join(' ').toStdString() << ": " << p.readAllStandardError().toStdString();
-        return QString::fromUtf8(p.readAllStandardOutput()).trimmed();
-    }
 
     QProcess daemon;
     QString address;
@@ -87,18 +75,12 @@ protected:
     std::unique_ptr<MprisService> service;
 };
 
-TEST_F(MprisTest, TheDesktopsClientDrivesTheTransportAndFollowsItsChanges) {
-    EXPECT_EQ(playerctl({"status"}), "Stopped");
-    playerctl({"play-pause"});
+TEST_F(MprisTest, TheDesktopsClientPlaysAndFollowsTheStatus) {
+    QProcess command;
+    startClient(command, {"play-pause"});
+    ASSERT_TRUE(spinUntil([&] { return command.state() == QProcess::NotRunning; }));
+    EXPECT_EQ(command.exitCode(), 0) << command.readAllStandardError().toStdString();
     EXPECT_TRUE(M().SongPlaying);
-    EXPECT_EQ(playerctl({"status"}), "Playing");
-    EXPECT_EQ(playerctl({"metadata", "--format", "{{title}}|{{mpris:length}}|{{mpris:trackid}}"}),
-              "Blue Night|204000000|'/org/sonarium/Track/0'");
-    playerctl({"next"});
-    EXPECT_EQ(M().CurrentSong, 1);
-    EXPECT_EQ(playerctl({"metadata", "title"}), "Harbour Lights");
-    playerctl({"volume", "0.5"});
-    EXPECT_EQ(M().Volume, 50);
 
     // A client that follows the player hears of a pause made in the window.
     QProcess follower;

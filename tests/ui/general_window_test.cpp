@@ -1,6 +1,6 @@
-// The dialog's scan and add faces in the real window: the face's controls show, the window is
-// an ordinary dialog, a user's pick in its lists reaches the models, and its buttons close it.
-// Which controls each face holds is the library's unit tests' to check.
+// The dialog's scan and add faces in the real window: the face's controls show, a user's pick
+// in its lists reaches the models, and its buttons close it. Which controls each face holds
+// is the library's unit tests' to check.
 #include <QListWidget>
 
 #include "WindowsFixture.h"
@@ -29,8 +29,6 @@ protected:
 
 TEST_F(GeneralWindowTest, TheScanAndAddFacesShowTheirControlsAndAnswer) {
     whileShown([&](GeneralWindow& w) {
-        EXPECT_TRUE(w.isModal());
-        EXPECT_FALSE(w.windowFlags() & Qt::FramelessWindowHint);
         EXPECT_TRUE(shown(w, "chkSubs"));
         EXPECT_FALSE(shown(w, "File1"));
         EXPECT_EQ(find(w, "chkSubs")->accessibleName(), "Include Sub-Directories");

@@ -24,28 +24,24 @@ protected:
         settle();
     }
 
+    // `count` songs by ten artists on eight albums, with the columns the grid shows first.
     void fill(int count) {
-        const char* artists[] = {"Nina Vale", "The Harbour Band", "Aurora Fields", "Marco Lind", "Deep Orchard",
-                                 "Silver Lanes", "Kite Runner", "Juniper", "Echo Park", "Bramble & Co"};
-        const char* albums[] = {"Northern Lights", "Low Tide", "City of Glass", "Paper Moons", "Slow Rivers",
-                                "Wild Honey", "Night Shift", "Open Roads"};
-        const char* genres[] = {"Rock", "Jazz", "Pop", "Blues", "Folk"};
+        const QStringList artists = {"Nina Vale",    "The Harbour Band", "Aurora Fields", "Marco Lind",
+                                     "Deep Orchard", "Silver Lanes",     "Kite Runner",   "Juniper",
+                                     "Echo Park",    "Bramble & Co"};
+        const QStringList albums = {"Northern Lights", "Low Tide",   "City of Glass", "Paper Moons",
+                                    "Slow Rivers",     "Wild Honey", "Night Shift",   "Open Roads"};
         Recordset& r = data.recordset();
         for (int i = 0; i < count; ++i) {
-            const QString artist = QString::fromLatin1(artists[(i * 7) % 10]);
-            const QString album = QString::fromLatin1(albums[(i * 3) % 8]);
+            const QString artist = artists[i * 7 % 10], album = albums[i * 3 % 8];
             const QString dir = QStringLiteral("/music/%1/%2").arg(artist, album);
-            const QString file = QStringLiteral("%1 - Track %2").arg(artist).arg(i % 12 + 1, 2, 10, QLatin1Char('0'));
+            const QString file = QStringLiteral("%1 - Track %2").arg(artist).arg(i % 12 + 1);
+            // Path, File, Song Title, Artist, Album
+            const QString fields[] = {dir, file, QStringLiteral("Song %1").arg(i + 1), artist, album};
             r.AddNew();
-            r.Fields(QStringLiteral("Path\\File")).setValue(QStringLiteral("%1/%2 %3.MP3").arg(dir, file).arg(i));
-            r.Fields(QStringLiteral("Path")).setValue(dir);
-            r.Fields(QStringLiteral("File")).setValue(file);
-            r.Fields(QStringLiteral("Song Title")).setValue(QStringLiteral("Song %1").arg(i + 1));
-            r.Fields(QStringLiteral("Artist")).setValue(artist);
-            r.Fields(QStringLiteral("Album")).setValue(album);
-            r.Fields(QStringLiteral("Genre")).setValue(QString::fromLatin1(genres[i % 5]));
-            r.Fields(QStringLiteral("Duration")).setValue(QStringLiteral("0%1:%2").arg(2 + i % 4).arg(10 + i % 50));
-            r.Fields(QStringLiteral("Year")).setValue(QString::number(1970 + i % 40));
+            for (int k = 0; k < 5; ++k) r.Fields(k).setValue(fields[k]);
+            r.Fields(QStringLiteral("Path\\File"))
+                .setValue(QStringLiteral("%1/%2 %3.MP3").arg(dir, file).arg(i));
             r.Update();
         }
     }
@@ -88,12 +84,10 @@ protected:
     SqliteDataControl data;
 };
 
-TEST_F(LibraryWindowTest, AFullLibraryOpensWithItsButtonsOverTheHeadingsAndTakesTyping) {
-    Form1& f = form1();
+TEST_F(LibraryWindowTest, AFullLibraryOpensLazilyAndTakesTyping) {
     fill(300);
-    f.imgButon[1].Click();
+    form1().imgButon[1].Click();
     press("imgDataBase");
-    ASSERT_TRUE(f.PanelDatabase.Visible());
     QTableView& grid = table();
     ASSERT_TRUE(grid.isVisible());
     EXPECT_EQ(grid.model()->rowCount(), 300);
@@ -109,7 +103,6 @@ TEST_F(LibraryWindowTest, AFullLibraryOpensWithItsButtonsOverTheHeadingsAndTakes
     key(*grid.focusWidget(), Qt::Key_A, "a");
     key(*grid.focusWidget(), Qt::Key_Return);
     idle();
-    EXPECT_EQ(cell(1, 9), "Fa");
     EXPECT_EQ(data.recordset().Fields(9).Value().toString(), "Fa");
     clickCell(2, 0);
     saveScreenshot(main(), "library-typed.png");

@@ -44,9 +44,10 @@ TEST_F(MainWindowTest, StartShowsTheSplashThenTheMainWindowWithItsNamesForReader
 
     // A queue and a title pane with songs in them, so the picture shows real text.
     Form1& f = form1();
-    const QStringList titles = QStringLiteral("Blue Monday,Cathedral Bells,Desert Highway,Evening Tide,Firelight "
-                                              "Waltz,Golden Hour,Harbour Lights,Indigo Rain,Jasmine Road,Kingfisher,"
-                                              "Lantern Parade,Midnight Train")
+    const QStringList titles = QStringLiteral(
+                                   "Blue Monday,Cathedral Bells,Desert Highway,Evening Tide,Firelight "
+                                   "Waltz,Golden Hour,Harbour Lights,Indigo Rain,Jasmine Road,Kingfisher,"
+                                   "Lantern Parade,Midnight Train")
                                    .split(u',');
     for (int i = 0; i < 12; ++i) f.Title[i].setCaption(titles[i]);
     for (int i : {0, 5, 6, 11}) {
@@ -54,14 +55,14 @@ TEST_F(MainWindowTest, StartShowsTheSplashThenTheMainWindowWithItsNamesForReader
         tc.mp3.addFile(titles[i] + ".MP3", 11000, 287.0f);  // selecting a row loads it
     }
     f.lstSongs.setListIndex(1);
-    const std::pair<Label*, const char*> captions[] = {{&f.lblSongTitile, "Golden Hour"}, {&f.lblTime, "01:23"},
-                                                       {&f.lblBitrate, "128 kbps"},       {&f.lblFrequency, "44.1 kHz"},
-                                                       {&f.lblSongDuration, "04:56"},     {&f.lblTotTime, "17:42"}};
+    const std::pair<Label*, const char*> captions[] = {
+        {&f.lblSongTitile, "Golden Hour"}, {&f.lblTime, "01:23"},         {&f.lblBitrate, "128 kbps"},
+        {&f.lblFrequency, "44.1 kHz"},     {&f.lblSongDuration, "04:56"}, {&f.lblTotTime, "17:42"}};
     for (auto [label, text] : captions) label->setCaption(QString::fromLatin1(text));
     saveScreenshot(main(), "main-window.png");
 }
 
-TEST_F(MainWindowTest, AMenuEntryRunsItsClickAndShowsTheModelsCheckMark) {
+TEST_F(MainWindowTest, AMenuEntryRunsItsClickAndShowsTheModelsCheckMarkAndTheBarGoesWithTheLastMenu) {
     program().Main();
     settle();
     QAction* vu = main().menus().actionOf(form1().mnuVU);
@@ -73,6 +74,14 @@ TEST_F(MainWindowTest, AMenuEntryRunsItsClickAndShowsTheModelsCheckMark) {
     form1().mnuVU.onClick = [&] { form1().mnuVU.setChecked(!form1().mnuVU.Checked()); };
     vu->trigger();
     EXPECT_TRUE(vu->isChecked());
+
+    // The small bar the program shrinks to: the form's outer height less its caption, and no
+    // menu bar once the last menu is hidden.
+    for (MenuItem* m : form1().menuBar()) m->setVisible(false);
+    form1().setHeight(780);
+    settle();
+    EXPECT_FALSE(main().menuBar()->isVisible());
+    EXPECT_EQ(main().height(), 37);
 }
 
 TEST_F(MainWindowTest, AboutIsModalItsOkClosesItAndTheWindowsReturnActivatesTheForm) {
@@ -116,17 +125,6 @@ TEST_F(MainWindowTest, AboutIsModalItsOkClosesItAndTheWindowsReturnActivatesTheF
     settle();
     EXPECT_EQ(QGuiApplication::focusWindow(), main().windowHandle());
     EXPECT_EQ(activations, 2);
-}
-
-// The small bar the program shrinks to: the form's outer height less its caption, and no menu
-// bar once the last menu is hidden.
-TEST_F(MainWindowTest, WindowHeightFollowsTheFormAndTheBarGoesWithTheLastMenu) {
-    program().Main();
-    for (MenuItem* m : form1().menuBar()) m->setVisible(false);
-    form1().setHeight(780);
-    settle();
-    EXPECT_FALSE(main().menuBar()->isVisible());
-    EXPECT_EQ(main().height(), 37);
 }
 
 TEST_F(MainWindowTest, KeysGoToTheFormFirstAndASwallowedKeyGoesNoFurther) {

@@ -14,45 +14,27 @@ using namespace sonarium;
 
 namespace {
 
-class PlaybackWindowTest : public WindowsFixture {
-protected:
-    void SetUp() override {
-        WindowsFixture::SetUp();
-        for (const char* name : {"Blue Night", "Harbour Lights", "Northern Road"}) {
-            write(QString::fromLatin1(name) + ".MP3", {});
-            tc.mp3.addFile(path(QString::fromLatin1(name) + ".MP3"), 7800, 204.0f, 192, 44100, 1);
-        }
-        // The last song carries a tag, for the song's details to show.
-        Id3v1Changes tag;
-        tag.title = QStringLiteral("Northern Road");
-        ASSERT_TRUE(writeId3v1(path("Northern Road.MP3"), tag));
-        program().Main();
-        settle();
-    }
-    void clickRow(QListWidget& list, int row) {
-        click(*list.viewport(), list.visualItemRect(list.item(row)).center());
-        settle();
-    }
-};
+using PlaybackWindowTest = WindowsFixture;
 
 TEST_F(PlaybackWindowTest, QueuePlayPauseSkipAndFadeFromTheWindow) {
+    for (const char* name : {"Blue Night", "Harbour Lights", "Northern Road"}) {
+        write(QString::fromLatin1(name) + ".MP3", {});
+        tc.mp3.addFile(path(QString::fromLatin1(name) + ".MP3"), 7800, 204.0f, 192, 44100, 1);
+    }
+    // The last song carries a tag, for the song's details to show.
+    Id3v1Changes tag;
+    tag.title = QStringLiteral("Northern Road");
+    ASSERT_TRUE(writeId3v1(path("Northern Road.MP3"), tag));
+    program().Main();
     Form1& f = form1();
     f.Dir1.setPath(QStringLiteral(".."));
     f.Dir1.setPath(dir.path());  // the folder chosen in the browser fills the title pane
     settle();
-    for (int i = 0; i < 3; ++i) {
-        auto* title = find<QWidget>(main(), QStringLiteral("Title(%1)").arg(i));
-        ASSERT_NE(title, nullptr);
-        mouse(*title, QEvent::MouseButtonDblClick, QPoint(5, 5), Qt::LeftButton);
-        mouse(*title, QEvent::MouseButtonRelease, QPoint(5, 5), Qt::LeftButton);
-    }
-    settle();
+    for (int i = 0; i < 3; ++i) secondClick(*find(main(), QStringLiteral("Title(%1)").arg(i)), QPoint(5, 5));
     auto* queue = find<QListWidget>(main(), "lstSongs");
     ASSERT_EQ(queue->count(), 3);
     f.mnuOrdered.Click();
-    settle();
-
-    clickRow(*queue, 0);
+    click(*queue->viewport(), rowAt(*queue, 0));
     press("BtnPlay");
     ASSERT_TRUE(M().SongPlaying);
     tc.loop.advance(66000);
@@ -64,7 +46,7 @@ TEST_F(PlaybackWindowTest, QueuePlayPauseSkipAndFadeFromTheWindow) {
     saveScreenshot(main(), "paused.png");
     press("BtnPause");
 
-    clickRow(*queue, 2);  // a click on a row during play switches to it at once
+    click(*queue->viewport(), rowAt(*queue, 2));  // a click on a row during play switches to it at once
     EXPECT_EQ(tc.mp3.openFile(), path("Northern Road.MP3"));
 
     press("BtnFade");

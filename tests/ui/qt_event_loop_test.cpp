@@ -8,16 +8,20 @@
 #include <QTimer>
 #include <thread>
 
-#include "controls/Errors.h"
 #include "CollectedErrors.h"
+#include "controls/Errors.h"
 #include "ui/QtEventLoop.h"
 
 namespace sonarium {
 namespace {
 
-TEST(QtEventLoopTest, PostsRunInOrderOnTheUiThreadFromAnyThread) {
+class QtEventLoopTest : public ::testing::Test {
+protected:
     CollectedErrors errors;
-    QtEventLoop loop(errors);
+    QtEventLoop loop{errors};
+};
+
+TEST_F(QtEventLoopTest, PostsRunInOrderOnTheUiThreadFromAnyThread) {
     // A worker posts while the UI thread sleeps in the wait; each call runs on the UI thread.
     std::vector<int> seen;
     bool allOnUiThread = true;
@@ -37,9 +41,7 @@ TEST(QtEventLoopTest, PostsRunInOrderOnTheUiThreadFromAnyThread) {
     EXPECT_GE(loop.now(), 5);
 }
 
-TEST(QtEventLoopTest, OpenTimerIsNotReenteredWhileOthersRunInsideItsWait) {
-    CollectedErrors errors;
-    QtEventLoop loop(errors);
+TEST_F(QtEventLoopTest, OpenTimerIsNotReenteredWhileOthersRunInsideItsWait) {
     bool insideA = false, reentered = false, released = false;
     int aRuns = 0, bInsideA = 0, postsInsideA = 0;
     const auto a = loop.startTimer(2, [&] {
@@ -51,7 +53,8 @@ TEST(QtEventLoopTest, OpenTimerIsNotReenteredWhileOthersRunInsideItsWait) {
         insideA = false;
     });
     const auto b = loop.startTimer(2, [&] { bInsideA += insideA; });
-    loop.startTimer(30, [&] { released = true; }, true);
+    loop.startTimer(
+        30, [&] { released = true; }, true);
 
     loop.waitUntil([&] { return aRuns >= 3; });  // it goes on ticking once its handler closed
     loop.stopTimer(a);
@@ -61,13 +64,12 @@ TEST(QtEventLoopTest, OpenTimerIsNotReenteredWhileOthersRunInsideItsWait) {
     EXPECT_EQ(postsInsideA, 1);
 }
 
-TEST(QtEventLoopTest, StopTimerInsideItsOwnHandlerOrWhileItIsOpen) {
-    CollectedErrors errors;
-    QtEventLoop loop(errors);
+TEST_F(QtEventLoopTest, StopTimerInsideItsOwnHandlerOrWhileItIsOpen) {
     // Long enough that another tick would show, however slowly a loaded machine delivers them.
     auto pause = [&] {
         bool done = false;
-        loop.startTimer(20, [&] { done = true; }, true);
+        loop.startTimer(
+            20, [&] { done = true; }, true);
         loop.waitUntil([&] { return done; });
     };
     int ticks = 0;
@@ -103,9 +105,7 @@ TEST(QtEventLoopTest, StopTimerInsideItsOwnHandlerOrWhileItIsOpen) {
     EXPECT_TRUE(openTimer.isNull());
 }
 
-TEST(QtEventLoopTest, AFailureInAnEventIsLoggedAndTheLoopGoesOn) {
-    CollectedErrors errors;
-    QtEventLoop loop(errors);
+TEST_F(QtEventLoopTest, AFailureInAnEventIsLoggedAndTheLoopGoesOn) {
     bool after = false;
     loop.post([] { throw RuntimeError(RuntimeError::FileNotFound, "File not found"); });
     loop.post([&] { after = true; });

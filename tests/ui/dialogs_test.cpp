@@ -1,10 +1,9 @@
-// The real message and input boxes: each button set shows its buttons, the first one the
-// default, with the caller's text as plain text; each button, Escape and the window's close
-// give the caller the answer the program expects.
+// The real message boxes: each button set shows its buttons, the first one the default, with
+// the caller's text as plain text; each button, Escape and the window's close give the caller
+// the answer the program expects.
 #include <gtest/gtest.h>
 
 #include <QApplication>
-#include <QInputDialog>
 #include <QKeyEvent>
 #include <QMessageBox>
 #include <QPushButton>
@@ -17,10 +16,9 @@ namespace sonarium {
 namespace {
 
 // Runs `act` on the modal box once its own event loop runs.
-template <class Box>
-void whenUp(const std::function<void(Box&)>& act) {
+void whenUp(const std::function<void(QMessageBox&)>& act) {
     QTimer::singleShot(0, qApp, [act] {
-        auto* box = qobject_cast<Box*>(QApplication::activeModalWidget());
+        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
         ASSERT_NE(box, nullptr) << "no modal box is up";
         act(*box);
     });
@@ -57,7 +55,7 @@ TEST(QtDialogsTest, EachButtonSetShowsItsButtonsAndAnswersForEachWayOfClosing) {
         for (const auto& button : c.buttons) names << button.first;
         SCOPED_TRACE(names.join(u' ').toStdString());
         auto ask = [&](const std::function<void(QMessageBox&)>& act) {
-            whenUp<QMessageBox>(act);
+            whenUp(act);
             return dialogs.msgBox(text, c.set, MsgIcon::Question, QString());
         };
         for (const auto& button : c.buttons) {
@@ -76,18 +74,6 @@ TEST(QtDialogsTest, EachButtonSetShowsItsButtonsAndAnswersForEachWayOfClosing) {
         EXPECT_EQ(ask([](QMessageBox& box) { escape(box); }), c.escaped) << "Escape";
         EXPECT_EQ(ask([](QMessageBox& box) { box.close(); }), c.escaped) << "close";
     }
-}
-
-TEST(QtDialogsTest, TheInputBoxGivesTheTextOnOkAndNothingOnCancel) {
-    QtDialogs dialogs;
-    whenUp<QInputDialog>([](QInputDialog& box) {
-        EXPECT_EQ(box.textValue(), "Jazz");
-        box.setTextValue("Blues");
-        box.accept();
-    });
-    EXPECT_EQ(dialogs.inputBox("Name of the folder:", "New Folder", "Jazz"), "Blues");
-    whenUp<QInputDialog>([](QInputDialog& box) { escape(box); });
-    EXPECT_EQ(dialogs.inputBox("Name of the folder:", "New Folder", "Jazz"), "");
 }
 
 }  // namespace

@@ -114,17 +114,6 @@ TEST_F(MainWindowTest, AboutIsModalItsOkClosesItAndTheWindowsReturnActivatesTheF
     main().activateWindow();
     settle();
     EXPECT_EQ(activations, 2);
-
-    // A window that is not a form (a message box, another program's window) and back: no event.
-    QWidget box;
-    box.show();
-    box.activateWindow();
-    settle();
-    ASSERT_EQ(QGuiApplication::focusWindow(), box.windowHandle());
-    main().activateWindow();
-    settle();
-    EXPECT_EQ(QGuiApplication::focusWindow(), main().windowHandle());
-    EXPECT_EQ(activations, 2);
 }
 
 TEST_F(MainWindowTest, KeysGoToTheFormFirstAndASwallowedKeyGoesNoFurther) {

@@ -1,6 +1,7 @@
 #include "Seeds.h"
 
 #include <algorithm>
+#include <random>
 #include <string_view>
 
 namespace sonarium::fuzz {
@@ -8,16 +9,12 @@ namespace {
 
 using namespace std::string_view_literals;
 
-constexpr std::size_t kMaxSize = 64 * 1024;
-
 // Layer III frame headers. MPEG-1, 128 kbit/s, 44.1 kHz, joint stereo: 417 bytes a frame.
 // MPEG-2, 64 kbit/s, 22.05 kHz, mono: 208 bytes. Free format (bit rate index 0): the frame size
 // comes from the distance between headers.
 constexpr std::uint32_t kMpeg1 = 0xFFFB9064u, kMpeg2Mono = 0xFFF380C0u, kFreeFormat = 0xFFFB0064u;
 
-Bytes bytes(std::string_view s) {
-    return Bytes(s.begin(), s.end());
-}
+Bytes bytes(std::string_view s) { return Bytes(s.begin(), s.end()); }
 
 Bytes operator+(Bytes a, const Bytes& b) {
     a.insert(a.end(), b.begin(), b.end());
@@ -79,58 +76,6 @@ std::vector<Seed> pathSeeds() {
             {"loops", bytes("Music/UP/music/up/SELF/x")},
             {"new", bytes("/Music/Nowhere/New.WAV")},
             {"deep", bytes(deep)}};
-}
-
-Bytes mutate(const Bytes& input, const Bytes& other, std::mt19937& rng) {
-    static constexpr std::string_view kMarkers[] = {"TAG"sv,
-                                                    "ID3"sv,
-                                                    "Xing"sv,
-                                                    "Info"sv,
-                                                    "\xFF\xFB\x90\x64"sv,
-                                                    "\xFF\xF3\x80\xC0"sv,
-                                                    "\xFF\xFF\xFF\xFF"sv,
-                                                    "\0\0\0\0"sv};
-    Bytes b = input;
-    auto pick = [&rng](std::size_t n) { return n == 0 ? 0 : std::size_t(rng() % n); };
-    auto at = [&b](std::size_t i) { return b.begin() + std::ptrdiff_t(i); };
-    for (int edits = 1 + int(rng() % 4); edits > 0; --edits) {
-        const std::size_t where = pick(b.size() + 1);
-        switch (rng() % 5) {
-            case 0:  // a bit flipped
-                if (!b.empty()) b[pick(b.size())] ^= std::uint8_t(1u << (rng() % 8));
-                break;
-            case 1: {  // random bytes, or a piece of the input itself, put in
-                Bytes piece(1 + pick(64));
-                for (auto& x : piece) x = std::uint8_t(rng());
-                if (rng() % 2 && !b.empty()) {
-                    const std::size_t from = pick(b.size());
-                    piece.assign(at(from), at(std::min(b.size(), from + 1 + pick(512))));
-                }
-                b.insert(at(where), piece.begin(), piece.end());
-                break;
-            }
-            case 2:  // bytes taken out, or the rest cut off
-                b.erase(at(where), rng() % 4 ? at(std::min(b.size(), where + 1 + pick(256))) : b.end());
-                break;
-            case 3:  // the head of one, the tail of the other
-                b.resize(where);
-                b.insert(b.end(), other.begin() + std::ptrdiff_t(pick(other.size() + 1)), other.end());
-                break;
-            default: {  // a marker the parsers look for: at the start, where a tag's goes, or anywhere
-                const std::string_view m = kMarkers[pick(std::size(kMarkers))];
-                std::size_t to = where;
-                if (rng() % 3 == 0)
-                    to = 0;
-                else if (rng() % 2 == 0 && b.size() >= 128)
-                    to = b.size() - 128;
-                if (b.size() < to + m.size()) b.resize(to + m.size(), 0);
-                std::copy(m.begin(), m.end(), at(to));
-                break;
-            }
-        }
-    }
-    if (b.size() > kMaxSize) b.resize(kMaxSize);
-    return b;
 }
 
 }  // namespace sonarium::fuzz

@@ -1,8 +1,7 @@
 #pragma once
-// The starting inputs of the fuzz targets and a deterministic mutator, shared by the short
-// runs of every build and by the corpus a real fuzzing run starts from.
+// The starting inputs of the fuzz targets, shared by the short runs of every build and by the
+// corpus a real fuzzing run starts from.
 #include <cstdint>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -16,8 +15,8 @@ struct Seed {
 };
 
 // Empty input, a tag alone, MPEG frames (MPEG-1, MPEG-2, mono, free format, a Xing header, a
-// change of format midway),
-// frames after an ID3v2 header, frames with a tag, a lying ID3v2 header, random bytes.
+// change of format midway), frames after an ID3v2 header, frames with a tag, a lying ID3v2
+// header, random bytes.
 std::vector<Seed> seedCorpus();
 // File names: case that differs, dots and doubled slashes, a looping symlink, a new name, and
 // a name of 50,000 components.
@@ -27,10 +26,5 @@ std::vector<Seed> pathSeeds();
 #ifndef FUZZ_SEEDS
 #define FUZZ_SEEDS seedCorpus
 #endif
-
-// One to four random edits of `input`: bit flips, random bytes or copied pieces put in, bytes
-// taken out or the rest cut off, splices with `other`, and markers the parsers look for ("TAG", "ID3",
-// "Xing", frame headers) dropped at telling places. Never longer than 64 KiB.
-Bytes mutate(const Bytes& input, const Bytes& other, std::mt19937& rng);
 
 }  // namespace sonarium::fuzz

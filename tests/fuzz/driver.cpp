@@ -1,15 +1,12 @@
 // The main of a fuzz target in builds without libFuzzer: the seed corpus, then seeded
 // mutations of it, so that every test run feeds the target the same inputs and a failure
-// repeats. Stops after kMutations inputs or kBudget, whichever comes first. Files named on
-// the command line are run instead (a crash input saved by a real fuzzing run, for one).
-#include <fcntl.h>
-#include <unistd.h>
-
+// repeats, under a debugger if need be. Stops after kMutations inputs or kBudget, whichever
+// comes first. (A libFuzzer build saves and replays crashing inputs itself.)
+#include <algorithm>
 #include <chrono>
-#include <csignal>
 #include <cstdio>
-#include <fstream>
-#include <iterator>
+#include <random>
+#include <string>
 
 #include "Seeds.h"
 
@@ -17,54 +14,66 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 
 namespace {
 
-constexpr int kMutations = 4000;
-constexpr auto kBudget = std::chrono::seconds(2);
+using sonarium::fuzz::Bytes;
 
-// The input being run, kept where a crash handler can save it.
-const sonarium::fuzz::Bytes* current = nullptr;
-
-void run(const sonarium::fuzz::Bytes& input) {
-    current = &input;
-    LLVMFuzzerTestOneInput(input.data(), input.size());
-    current = nullptr;
-}
-
-// Saves the input that crashed as crash-input in the working directory (the build tree under
-// ctest), to be run again by naming it, then dies of the same signal. Async-signal-safe calls only.
-void saveCrashInput(int sig) {
-    if (current) {
-        const int fd = open("crash-input", O_WRONLY | O_CREAT | O_TRUNC, 0644);
-        if (fd >= 0) {
-            [[maybe_unused]] ssize_t n = write(fd, current->data(), current->size());
-            close(fd);
-            const char note[] = "the crashing input is saved in crash-input\n";
-            n = write(STDERR_FILENO, note, sizeof note - 1);
+// One to four random edits of `input`: bit flips, random bytes or copied pieces put in, bytes
+// taken out or the rest cut off, splices with `other`, and markers the parsers look for ("TAG",
+// "ID3", "Xing", frame headers) dropped at telling places. Never longer than 64 KiB.
+Bytes mutate(const Bytes& input, const Bytes& other, std::mt19937& rng) {
+    // clang-format off
+    static const std::string kMarkers[] = {"TAG", "ID3", "Xing", "Info", "\xFF\xFB\x90\x64", "\xFF\xF3\x80\xC0",
+                                           "\xFF\xFF\xFF\xFF", std::string(4, '\0')};
+    // clang-format on
+    Bytes b = input;
+    auto pick = [&rng](std::size_t n) { return n == 0 ? 0 : std::size_t(rng() % n); };
+    auto at = [&b](std::size_t i) { return b.begin() + std::ptrdiff_t(i); };
+    for (int edits = 1 + int(rng() % 4); edits > 0; --edits) {
+        const std::size_t where = pick(b.size() + 1);
+        switch (rng() % 5) {
+        case 0:  // a bit flipped
+            if (!b.empty()) b[pick(b.size())] ^= std::uint8_t(1u << (rng() % 8));
+            break;
+        case 1: {  // random bytes, or a piece of the input itself, put in
+            Bytes piece(1 + pick(64));
+            for (auto& x : piece) x = std::uint8_t(rng());
+            if (rng() % 2 && !b.empty()) {
+                const std::size_t from = pick(b.size());
+                piece.assign(at(from), at(std::min(b.size(), from + 1 + pick(512))));
+            }
+            b.insert(at(where), piece.begin(), piece.end());
+            break;
+        }
+        case 2:  // bytes taken out, or the rest cut off
+            b.erase(at(where), rng() % 4 ? at(std::min(b.size(), where + 1 + pick(256))) : b.end());
+            break;
+        case 3:  // the head of one, the tail of the other
+            b.resize(where);
+            b.insert(b.end(), other.begin() + std::ptrdiff_t(pick(other.size() + 1)), other.end());
+            break;
+        default: {  // a marker the parsers look for: at the start, where a tag's goes, or anywhere
+            const std::string& m = kMarkers[pick(std::size(kMarkers))];
+            const std::size_t to = rng() % 3 == 0                        ? 0
+                                   : (rng() % 2 == 0 && b.size() >= 128) ? b.size() - 128
+                                                                         : where;
+            if (b.size() < to + m.size()) b.resize(to + m.size(), 0);
+            std::copy(m.begin(), m.end(), at(to));
+            break;
+        }
         }
     }
-    signal(sig, SIG_DFL);
-    raise(sig);
+    if (b.size() > 64 * 1024) b.resize(64 * 1024);
+    return b;
 }
 
 }  // namespace
 
-int main(int argc, char** argv) {
+int main() {
     using namespace sonarium::fuzz;
-    for (int sig : {SIGABRT, SIGSEGV, SIGBUS, SIGFPE, SIGILL}) signal(sig, saveCrashInput);
-    if (argc > 1) {
-        for (int i = 1; i < argc; ++i) {
-            std::ifstream in(argv[i], std::ios::binary);
-            if (!in) {
-                std::fprintf(stderr, "cannot read %s\n", argv[i]);
-                return 1;
-            }
-            run(Bytes(std::istreambuf_iterator<char>(in), {}));
-        }
-        std::printf("ran %d input(s)\n", argc - 1);
-        return 0;
-    }
+    constexpr int kMutations = 4000;
+    constexpr auto kBudget = std::chrono::seconds(2);
 
     const std::vector<Seed> seeds = FUZZ_SEEDS();
-    for (const Seed& s : seeds) run(s.bytes);
+    for (const Seed& s : seeds) LLVMFuzzerTestOneInput(s.bytes.data(), s.bytes.size());
 
     std::mt19937 rng(20240601);
     const auto deadline = std::chrono::steady_clock::now() + kBudget;
@@ -74,7 +83,7 @@ int main(int argc, char** argv) {
         // Half the time build on the last input, so that edits pile up.
         const Bytes& base = rng() % 2 ? last : seeds[rng() % seeds.size()].bytes;
         last = mutate(base, seeds[rng() % seeds.size()].bytes, rng);
-        run(last);
+        LLVMFuzzerTestOneInput(last.data(), last.size());
     }
     std::printf("ran %zu seeds and %d mutations\n", seeds.size(), done);
     return 0;

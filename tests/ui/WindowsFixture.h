@@ -4,6 +4,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
+#include <QListWidget>
 #include <QMouseEvent>
 #include <functional>
 
@@ -50,16 +51,22 @@ protected:
         return window.findChild<W*>(name);
     }
 
-    static void mouse(QWidget& w, QEvent::Type type, QPoint at, Qt::MouseButton button,
-                      Qt::KeyboardModifiers mods = Qt::NoModifier) {
-        const Qt::MouseButtons held = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::MouseButtons(button);
-        QMouseEvent e(type, QPointF(at), QPointF(w.mapToGlobal(at)), button, held, mods);
+    // A press, release or double click of the left button at `at`.
+    static void mouse(QWidget& w, QEvent::Type type, QPoint at) {
+        const Qt::MouseButtons held = type == QEvent::MouseButtonRelease ? Qt::NoButton : Qt::LeftButton;
+        QMouseEvent e(type, QPointF(at), QPointF(w.mapToGlobal(at)), Qt::LeftButton, held, Qt::NoModifier);
         QCoreApplication::sendEvent(&w, &e);
     }
-    static void click(QWidget& w, QPoint at, Qt::MouseButton button = Qt::LeftButton) {
-        mouse(w, QEvent::MouseButtonPress, at, button);
-        mouse(w, QEvent::MouseButtonRelease, at, button);
+    static void click(QWidget& w, QPoint at) {
+        mouse(w, QEvent::MouseButtonPress, at);
+        mouse(w, QEvent::MouseButtonRelease, at);
     }
+    // What follows a click when it is the first of a double click.
+    static void secondClick(QWidget& w, QPoint at) {
+        mouse(w, QEvent::MouseButtonDblClick, at);
+        mouse(w, QEvent::MouseButtonRelease, at);
+    }
+    static QPoint rowAt(QListWidget& list, int row) { return list.visualItemRect(list.item(row)).center(); }
     // A click near the top left corner of the main window's control `name`.
     void press(const QString& name) {
         QWidget* w = find(main(), name);
@@ -67,7 +74,8 @@ protected:
         click(*w, QPoint(3, 3));
         settle();
     }
-    static void key(QWidget& w, int qtKey, const QString& text = {}, Qt::KeyboardModifiers mods = Qt::NoModifier) {
+    static void key(QWidget& w, int qtKey, const QString& text = {},
+                    Qt::KeyboardModifiers mods = Qt::NoModifier) {
         QKeyEvent press(QEvent::KeyPress, qtKey, mods, text);
         QCoreApplication::sendEvent(&w, &press);
         QKeyEvent release(QEvent::KeyRelease, qtKey, mods, text);

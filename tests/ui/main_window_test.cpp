@@ -29,30 +29,25 @@ TEST_F(MainWindowTest, StartShowsTheSplashThenTheMainWindowWithItsNamesForReader
     EXPECT_TRUE(splashSeen);
     EXPECT_FALSE(views->general().isVisible());
     ASSERT_TRUE(main().isVisible());
-    EXPECT_EQ(main().windowTitle(), "Sonarium");
-    EXPECT_EQ(main().menus().actionOf(form1().mnuQuit)->shortcut(), QKeySequence(QStringLiteral("Ctrl+Q")));
 
+    // The image buttons take the keyboard's focus and carry their names; labels say what they
+    // show, a control array's members their place.
     auto* play = find<QAbstractButton>(main(), "BtnPlay");
     ASSERT_NE(play, nullptr);
     EXPECT_EQ(play->focusPolicy(), Qt::StrongFocus);
-    QAccessibleInterface* playForReaders = QAccessible::queryAccessibleInterface(play);
-    ASSERT_NE(playForReaders, nullptr);
-    EXPECT_EQ(playForReaders->role(), QAccessible::Button);
-    EXPECT_EQ(playForReaders->text(QAccessible::Name), "Play");
-    EXPECT_EQ(QAccessible::queryAccessibleInterface(find<QWidget>(main(), "chkLoop"))->role(), QAccessible::CheckBox);
+    EXPECT_EQ(QAccessible::queryAccessibleInterface(play)->text(QAccessible::Name), "Play");
     auto* time = find<QLabel>(main(), "lblTime");
     EXPECT_EQ(time->accessibleName(), time->text());
     EXPECT_EQ(time->accessibleDescription(), "Elapsed time");
-    auto* title3 = find<QLabel>(main(), "Title(3)");
-    ASSERT_NE(title3, nullptr);
-    EXPECT_EQ(title3->accessibleDescription(), "Title 4");
+    EXPECT_EQ(find<QLabel>(main(), "Title(3)")->accessibleDescription(), "Title 4");
     EXPECT_EQ(find<QListWidget>(main(), "lstSongs")->accessibleName(), "Song queue");
 
     // A queue and a title pane with songs in them, so the picture shows real text.
     Form1& f = form1();
-    const QStringList titles = QStringLiteral("Blue Monday,Cathedral Bells,Desert Highway,Evening Tide,Firelight "
-                                              "Waltz,Golden Hour,Harbour Lights,Indigo Rain,Jasmine Road,Kingfisher,"
-                                              "Lantern Parade,Midnight Train")
+    const QStringList titles = QStringLiteral(
+                                   "Blue Monday,Cathedral Bells,Desert Highway,Evening Tide,Firelight "
+                                   "Waltz,Golden Hour,Harbour Lights,Indigo Rain,Jasmine Road,Kingfisher,"
+                                   "Lantern Parade,Midnight Train")
                                    .split(u',');
     for (int i = 0; i < 12; ++i) f.Title[i].setCaption(titles[i]);
     for (int i : {0, 5, 6, 11}) {
@@ -60,17 +55,14 @@ TEST_F(MainWindowTest, StartShowsTheSplashThenTheMainWindowWithItsNamesForReader
         tc.mp3.addFile(titles[i] + ".MP3", 11000, 287.0f);  // selecting a row loads it
     }
     f.lstSongs.setListIndex(1);
-    const std::pair<Label*, const char*> captions[] = {{&f.lblSongTitile, "Golden Hour"}, {&f.lblTime, "01:23"},
-                                                       {&f.lblBitrate, "128 kbps"},       {&f.lblFrequency, "44.1 kHz"},
-                                                       {&f.lblSongDuration, "04:56"},     {&f.lblTotTime, "17:42"}};
+    const std::pair<Label*, const char*> captions[] = {
+        {&f.lblSongTitile, "Golden Hour"}, {&f.lblTime, "01:23"},         {&f.lblBitrate, "128 kbps"},
+        {&f.lblFrequency, "44.1 kHz"},     {&f.lblSongDuration, "04:56"}, {&f.lblTotTime, "17:42"}};
     for (auto [label, text] : captions) label->setCaption(QString::fromLatin1(text));
-    EXPECT_EQ(find<QListWidget>(main(), "lstSongs")->count(), 4);
-    EXPECT_EQ(find<QListWidget>(main(), "lstSongs")->currentRow(), 1);
-    EXPECT_EQ(title3->text(), "Evening Tide");
     saveScreenshot(main(), "main-window.png");
 }
 
-TEST_F(MainWindowTest, AMenuEntryRunsItsClickAndShowsTheModelsCheckMark) {
+TEST_F(MainWindowTest, AMenuEntryRunsItsClickAndShowsTheModelsCheckMarkAndTheBarGoesWithTheLastMenu) {
     program().Main();
     settle();
     QAction* vu = main().menus().actionOf(form1().mnuVU);
@@ -82,10 +74,14 @@ TEST_F(MainWindowTest, AMenuEntryRunsItsClickAndShowsTheModelsCheckMark) {
     form1().mnuVU.onClick = [&] { form1().mnuVU.setChecked(!form1().mnuVU.Checked()); };
     vu->trigger();
     EXPECT_TRUE(vu->isChecked());
-    form1().mnuVU.setEnabled(false);
-    EXPECT_FALSE(vu->isEnabled());
-    form1().mnuAbout.setCaption(QStringLiteral("&About"));
-    EXPECT_EQ(main().menus().actionOf(form1().mnuAbout)->text(), "&About");
+
+    // The small bar the program shrinks to: the form's outer height less its caption, and no
+    // menu bar once the last menu is hidden.
+    for (MenuItem* m : form1().menuBar()) m->setVisible(false);
+    form1().setHeight(780);
+    settle();
+    EXPECT_FALSE(main().menuBar()->isVisible());
+    EXPECT_EQ(main().height(), 37);
 }
 
 TEST_F(MainWindowTest, AboutIsModalItsOkClosesItAndTheWindowsReturnActivatesTheForm) {
@@ -107,11 +103,8 @@ TEST_F(MainWindowTest, AboutIsModalItsOkClosesItAndTheWindowsReturnActivatesTheF
             GeneralWindow& about = views->general();
             seen = about.isVisible() && about.isModal();
             EXPECT_EQ(QGuiApplication::focusWindow(), about.windowHandle());
-            auto* ok = find<QAbstractButton>(about, "SScmdOK");
-            ASSERT_NE(ok, nullptr);
-            EXPECT_EQ(ok->accessibleName(), "OK");
             saveScreenshot(about, "about.png");
-            ok->click();
+            find<QAbstractButton>(about, "SScmdOK")->click();
         },
         true);
     main().menus().actionOf(form1().mnuAbout)->trigger();
@@ -121,34 +114,6 @@ TEST_F(MainWindowTest, AboutIsModalItsOkClosesItAndTheWindowsReturnActivatesTheF
     main().activateWindow();
     settle();
     EXPECT_EQ(activations, 2);
-
-    // A window that is not a form (a message box, another program's window) and back: no event.
-    QWidget box;
-    box.show();
-    box.activateWindow();
-    settle();
-    ASSERT_EQ(QGuiApplication::focusWindow(), box.windowHandle());
-    main().activateWindow();
-    settle();
-    EXPECT_EQ(QGuiApplication::focusWindow(), main().windowHandle());
-    EXPECT_EQ(activations, 2);
-}
-
-TEST_F(MainWindowTest, WindowHeightFollowsTheFormAndTheBarGoesWithTheLastMenu) {
-    program().Main();
-    settle();
-    const int full = main().centralWidget()->height();
-    form1().setHeight(780);
-    EXPECT_EQ(main().centralWidget()->height(), 37);
-    for (MenuItem* m : form1().menuBar()) m->setVisible(false);
-    settle();
-    EXPECT_FALSE(main().menuBar()->isVisible());
-    EXPECT_EQ(main().height(), 37);
-    for (MenuItem* m : form1().menuBar()) m->setVisible(true);
-    form1().setHeight(7200);
-    settle();
-    EXPECT_EQ(main().centralWidget()->height(), full);
-    EXPECT_EQ(main().height(), main().menuBar()->height() + full);
 }
 
 TEST_F(MainWindowTest, KeysGoToTheFormFirstAndASwallowedKeyGoesNoFurther) {

@@ -1,61 +1,40 @@
 // A user's session in the real main window: a folder's songs queued from the title pane, played,
 // paused, switched by a click on a row, and faded, its details seen from the View menu;
-// screenshots of each state. The times, the fade's volumes and the speed steps are the
-// playback unit tests' to check.
+// screenshots of each state. The times, the fade's volumes, the queue's order and the
+// captions are the playback unit tests' to check.
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
 
 #include "WindowsFixture.h"
+#include "engine/id3/Id3v1Writer.h"
 #include "ui/views/MenuBarBinder.h"
 
 using namespace sonarium;
 
 namespace {
 
-class PlaybackWindowTest : public WindowsFixture {
-protected:
-    void SetUp() override {
-        WindowsFixture::SetUp();
-        // The last song carries an ID3v1 tag, for the song's details to show.
-        const QByteArray tag = "TAG" + QByteArray("Northern Road").leftJustified(30, ' ') +
-                               QByteArray("Kite Runner").leftJustified(30, ' ') +
-                               QByteArray("Open Roads").leftJustified(30, ' ') + "1998" +
-                               QByteArray("Live take").leftJustified(30, ' ') + char(17);
-        for (const char* name : {"Blue Night", "Harbour Lights", "Northern Road"}) {
-            write(QString::fromLatin1(name) + ".MP3", QByteArray(name) == "Northern Road" ? tag : QByteArray());
-            tc.mp3.addFile(path(QString::fromLatin1(name) + ".MP3"), 7800, 204.0f, 192, 44100, 1);
-        }
-        program().Main();
-        settle();
-    }
-    void clickRow(QListWidget& list, int row) {
-        click(*list.viewport(), list.visualItemRect(list.item(row)).center());
-        settle();
-    }
-};
+using PlaybackWindowTest = WindowsFixture;
 
 TEST_F(PlaybackWindowTest, QueuePlayPauseSkipAndFadeFromTheWindow) {
+    for (const char* name : {"Blue Night", "Harbour Lights", "Northern Road"}) {
+        write(QString::fromLatin1(name) + ".MP3", {});
+        tc.mp3.addFile(path(QString::fromLatin1(name) + ".MP3"), 7800, 204.0f, 192, 44100, 1);
+    }
+    // The last song carries a tag, for the song's details to show.
+    Id3v1Changes tag;
+    tag.title = QStringLiteral("Northern Road");
+    ASSERT_TRUE(writeId3v1(path("Northern Road.MP3"), tag));
+    program().Main();
     Form1& f = form1();
     f.Dir1.setPath(QStringLiteral(".."));
     f.Dir1.setPath(dir.path());  // the folder chosen in the browser fills the title pane
     settle();
-    ASSERT_EQ(f.CurrentDir, dir.path() + u'/');
-    for (int i = 0; i < 3; ++i) {
-        auto* title = find<QWidget>(main(), QStringLiteral("Title(%1)").arg(i));
-        ASSERT_NE(title, nullptr);
-        ASSERT_FALSE(f.Title[i].Caption().isEmpty());
-        mouse(*title, QEvent::MouseButtonDblClick, QPoint(5, 5), Qt::LeftButton);
-        mouse(*title, QEvent::MouseButtonRelease, QPoint(5, 5), Qt::LeftButton);
-    }
-    settle();
+    for (int i = 0; i < 3; ++i) secondClick(*find(main(), QStringLiteral("Title(%1)").arg(i)), QPoint(5, 5));
     auto* queue = find<QListWidget>(main(), "lstSongs");
     ASSERT_EQ(queue->count(), 3);
     f.mnuOrdered.Click();
-    settle();
-    EXPECT_EQ(queue->item(0)->text(), "Blue Night");
-
-    clickRow(*queue, 0);
+    click(*queue->viewport(), rowAt(*queue, 0));
     press("BtnPlay");
     ASSERT_TRUE(M().SongPlaying);
     tc.loop.advance(66000);
@@ -67,11 +46,8 @@ TEST_F(PlaybackWindowTest, QueuePlayPauseSkipAndFadeFromTheWindow) {
     saveScreenshot(main(), "paused.png");
     press("BtnPause");
 
-    clickRow(*queue, 2);  // a click on a row during play switches to it at once
+    click(*queue->viewport(), rowAt(*queue, 2));  // a click on a row during play switches to it at once
     EXPECT_EQ(tc.mp3.openFile(), path("Northern Road.MP3"));
-    EXPECT_EQ(main().windowTitle(), "Northern Road");
-    press("cmdSpeedUp");
-    EXPECT_EQ(find<QLabel>(main(), "lblSpeed")->text(), f.lblSpeed.Caption());
 
     press("BtnFade");
     tc.loop.advance(1000);
@@ -88,7 +64,7 @@ TEST_F(PlaybackWindowTest, QueuePlayPauseSkipAndFadeFromTheWindow) {
     EXPECT_FALSE(find(main(), "PanelPhoto")->isVisible());
     auto* title = find<QLineEdit>(main(), "txtTitle");
     ASSERT_TRUE(title->isVisible());
-    EXPECT_EQ(title->text().trimmed(), "Northern Road");
+    EXPECT_TRUE(title->text().startsWith("Northern Road")) << title->text().toStdString();
     saveScreenshot(main(), "song-details.png");
 }
 

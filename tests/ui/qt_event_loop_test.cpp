@@ -6,24 +6,22 @@
 #include <QPointer>
 #include <QThread>
 #include <QTimer>
-#include <cstdio>
 #include <thread>
 
-#include "controls/Errors.h"
 #include "CollectedErrors.h"
+#include "controls/Errors.h"
 #include "ui/QtEventLoop.h"
 
 namespace sonarium {
 namespace {
 
-TEST(QtEventLoopTest, PostsRunInOrderOnTheUiThreadFromAnyThread) {
+class QtEventLoopTest : public ::testing::Test {
+protected:
     CollectedErrors errors;
-    QtEventLoop loop(errors);
-    QStringList order;
-    for (const char* name : {"a", "b", "c"}) loop.post([&order, name] { order << name; });
-    loop.doEvents();
-    EXPECT_EQ(order, QStringList({"a", "b", "c"}));
+    QtEventLoop loop{errors};
+};
 
+TEST_F(QtEventLoopTest, PostsRunInOrderOnTheUiThreadFromAnyThread) {
     // A worker posts while the UI thread sleeps in the wait; each call runs on the UI thread.
     std::vector<int> seen;
     bool allOnUiThread = true;
@@ -43,9 +41,7 @@ TEST(QtEventLoopTest, PostsRunInOrderOnTheUiThreadFromAnyThread) {
     EXPECT_GE(loop.now(), 5);
 }
 
-TEST(QtEventLoopTest, OpenTimerIsNotReenteredWhileOthersRunInsideItsWait) {
-    CollectedErrors errors;
-    QtEventLoop loop(errors);
+TEST_F(QtEventLoopTest, OpenTimerIsNotReenteredWhileOthersRunInsideItsWait) {
     bool insideA = false, reentered = false, released = false;
     int aRuns = 0, bInsideA = 0, postsInsideA = 0;
     const auto a = loop.startTimer(2, [&] {
@@ -57,7 +53,8 @@ TEST(QtEventLoopTest, OpenTimerIsNotReenteredWhileOthersRunInsideItsWait) {
         insideA = false;
     });
     const auto b = loop.startTimer(2, [&] { bInsideA += insideA; });
-    loop.startTimer(30, [&] { released = true; }, true);
+    loop.startTimer(
+        30, [&] { released = true; }, true);
 
     loop.waitUntil([&] { return aRuns >= 3; });  // it goes on ticking once its handler closed
     loop.stopTimer(a);
@@ -67,26 +64,9 @@ TEST(QtEventLoopTest, OpenTimerIsNotReenteredWhileOthersRunInsideItsWait) {
     EXPECT_EQ(postsInsideA, 1);
 }
 
-TEST(QtEventLoopTest, StopTimerInsideItsOwnHandlerOrWhileItIsOpen) {
-    CollectedErrors errors;
-    QtEventLoop loop(errors);
-    // Long enough that another tick would show, however slowly a loaded machine delivers them.
-    auto pause = [&] {
-        bool done = false;
-        loop.startTimer(20, [&] { done = true; }, true);
-        loop.waitUntil([&] { return done; });
-    };
-    int ticks = 0;
-    EventLoop::TimerId self = 0;
-    self = loop.startTimer(1, [&] {
-        if (++ticks == 2) loop.stopTimer(self);
-    });
-    loop.waitUntil([&] { return ticks >= 2; });
-    pause();
-    EXPECT_EQ(ticks, 2);
-
-    // Stopped from a nested handler while its own handler still waits: it never runs again,
-    // and its QTimer goes only after that handler has closed.
+// Stopped from a nested handler while its own handler still waits: it never runs again, and
+// its QTimer goes only after that handler has closed.
+TEST_F(QtEventLoopTest, ATimerStoppedWhileItsHandlerIsOpenNeverRunsAgain) {
     int openRuns = 0;
     bool stoppedWhileOpen = false;
     QPointer<QTimer> openTimer;
@@ -102,44 +82,18 @@ TEST(QtEventLoopTest, StopTimerInsideItsOwnHandlerOrWhileItIsOpen) {
     for (QTimer* t : loop.findChildren<QTimer*>())
         if (t->isActive()) openTimer = t;
     loop.waitUntil([&] { return stoppedWhileOpen; });
-    pause();
+    // Long enough that another tick would show, however slowly a loaded machine delivers them.
+    bool paused = false;
+    loop.startTimer(
+        20, [&] { paused = true; }, true);
+    loop.waitUntil([&] { return paused; });
     EXPECT_EQ(openRuns, 1);
     EXPECT_TRUE(stoppedWhileOpen);
     QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     EXPECT_TRUE(openTimer.isNull());
 }
 
-// A Play that stops the current song waits for its end; the end of the stream starts the
-// next song inside that wait.
-TEST(QtEventLoopTest, NestedWaitRunsStreamEndAndNextPlayInsidePlay) {
-    CollectedErrors errors;
-    QtEventLoop loop(errors);
-    QStringList log;
-    bool stopping = false;
-    std::function<void(QString)> play = [&](const QString& why) {
-        log << "enter Play " + why;
-        if (why == "click") {
-            stopping = true;
-            loop.startTimer(5, [&] {
-                log << "enter StreamEnd";
-                stopping = false;
-                play("next");
-                log << "exit StreamEnd";
-            }, true);
-            loop.waitUntil([&] { return !stopping; });
-        }
-        log << "exit Play " + why;
-    };
-    bool clicked = false;
-    loop.post([&] { play("click"), clicked = true; });
-    loop.waitUntil([&] { return clicked; });
-    EXPECT_EQ(log, QStringList({"enter Play click", "enter StreamEnd", "enter Play next", "exit Play next",
-                                "exit StreamEnd", "exit Play click"}));
-}
-
-TEST(QtEventLoopTest, AFailureInAnEventIsLoggedAndTheLoopGoesOn) {
-    CollectedErrors errors;
-    QtEventLoop loop(errors);
+TEST_F(QtEventLoopTest, AFailureInAnEventIsLoggedAndTheLoopGoesOn) {
     bool after = false;
     loop.post([] { throw RuntimeError(RuntimeError::FileNotFound, "File not found"); });
     loop.post([&] { after = true; });

@@ -36,9 +36,6 @@ TEST_F(Criteria, LinesJoinWithTheEnginesPrecedence) {
               "Select * From SongData Where [Artist] Like (\"Queen\") Or [Artist] Like (\"Abba\") "
               "And Not [Album] Like (\"Gold\")  Order By [Artist]");
     EXPECT_EQ(f.lblFilter.Caption() + " " + f.lblRecords.Caption(), "Auto-Queue 2");
-    EXPECT_EQ(general().List1.ListIndex(), 2) << "joining selects each line in turn";
-    EXPECT_TRUE(f.imgButon[3].picture().sameAs(f.ButtonBlue.picture()))
-        << "MenuColumn, over the order's button";
 
     // The menu on the filter's own column offers its removal, and the entry is off; a caption
     // left from that menu makes the entry remove the filter too.
@@ -120,7 +117,6 @@ TEST_F(Criteria, DoubleClickRemovalRewritesTheFirstLineAndClearAsks) {
     tc.dialogs.answer(MsgResult::Cancel).answer(MsgResult::OK);
     form1().mnuClearCriteria.Click();
     EXPECT_EQ(list.ListCount(), 1);
-    EXPECT_EQ(said(0), "Clear Criteria: Clear Criteria");
     form1().mnuClearCriteria.Click();
     EXPECT_EQ(list.ListCount(), 0);
 }

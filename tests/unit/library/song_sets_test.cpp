@@ -22,7 +22,6 @@ TEST_F(SongSets, SavingWritesTwoLinesARowAndAppendsTheExtensionAfterTheQuestion)
     tc.dialogs.answerFile(path("Evening"));  // no question: "Evening" itself doesn't exist
     f.mnuSaveSongSet.Click();
     EXPECT_EQ(tc.dialogs.shown().size(), 1u);
-    EXPECT_EQ(tc.dialogs.shown()[0].file.initDir, dir.path());
     EXPECT_EQ(read("Evening.EST"), evening);
 
     tc.dialogs.clear();
@@ -56,11 +55,6 @@ TEST_F(SongSets, LoadingReadsByFieldsSoCommasShiftThePairs) {
 
 TEST_F(SongSets, TheListOffersTheSetsOfTheProgramsDirectoryAndLoadsOnDoubleClick) {
     Form1& f = form1();
-    f.mnuSongSets.Click();
-    EXPECT_EQ(f.lstSongSets.ListCount(), 0);
-    EXPECT_TRUE(f.lstSongSets.Visible());
-    EXPECT_FALSE(f.PanelPhoto.Visible());
-
     write("Morning.EST", "/m/\r\nA\r\n/m/\r\nB\r\n");
     tc.mp3.addFile("/m/A.MP3", 100, 2.6f);
     f.mnuSongSets.Click();

@@ -10,8 +10,6 @@ using Tags = StartedProgram;
 
 TEST_F(Tags, UpdateTagWritesOnlyTheFilledBoxesButNotWhilePlaying) {
     Form1& f = form1();
-    EXPECT_EQ(f.cboGenre.List(7), "Hip -Hop") << "the genre table keeps its own spellings";
-    EXPECT_EQ(f.ListGen.List(79), "Hard Rock");
     tc.mp3.addFile("/m/Song.MP3", 100, 2.6f);
     f.AddToQueue("Song", "/m/");
     f.lstSongs.setListIndex(0);
@@ -39,8 +37,6 @@ TEST_F(Tags, FullBoxesDropPrintableKeysOnly) {
     f.txtYear.setText("1999");
     EXPECT_EQ(press(f.txtYear, '1'), 0);
     EXPECT_EQ(press(f.txtYear, 8), 8) << "backspace";
-    f.txtTitle.setText(QString(29, 'a'));
-    EXPECT_EQ(press(f.txtTitle, 'b'), 'b');
     EXPECT_EQ(press(f.txtTrackTitle, ' '), 0) << "track titles take no blanks";
 }
 

@@ -50,14 +50,6 @@ TEST_F(Config, ShortHandEditedAndShiftedFiles) {
         // Only exactly 1 counts as on; encoder 2 is the internal one too.
         {" 0 \r\n 0 \r\n/db.mdb\r\n 3465 \r\n 2 \r\n/skin\r\n-1 \r\n 0 \r\n 2 \r\n/deck\r\n07:00\r\n-1 \r\n",
          "0|0|/db.mdb|3465|2|/skin|0|10000|00|/deck|07:00|00||11"},
-        // Junk numbers read as their leading number; a quoted path keeps its comma.
-        {"abc\r\n1x\r\n\"/quoted, path\"\r\n 3645.4 \r\n",
-         "0|1|/quoted, path|3645|1||0|10000|00||00:00|00||00"},
-        // A comma in a stored path shifts every later field.
-        {" 0 \r\n 0 \r\n/home/me/Rock, Pop/Songs.mdb\r\n 1920 \r\n 0 \r\n/skins/Dark\r\n 0 \r\n 20000 \r\n 0 "
-         "\r\n"
-         "\r\n00:00\r\n 0 \r\n",
-         "0|0|/home/me/Rock|0|1920|0 |0|10000|00|0 |00:00|00||11"},
         // A field that fails ends the load and skips its later steps: the library path stays
         // empty, the design interval (30000) stays, the encoder menu is never set.
         {" 0 \r\n 0 \r\n\r\n 99999 \r\n 0 \r\n", "0|0||0|1||0|30000|00||00:00|00||01"},

@@ -1,5 +1,5 @@
-// Song sets: the .EST bytes, the extension rules and the overwrite question, the comma shift on
-// reading back, and the list of sets with its double-click load.
+// Song sets: the .EST bytes, the extension rules and the overwrite question, and the comma shift
+// on reading back. (The list of sets loads through the same reading.)
 #include "LibraryFixture.h"
 
 using namespace sonarium;
@@ -51,18 +51,6 @@ TEST_F(SongSets, LoadingReadsByFieldsSoCommasShiftThePairs) {
     tc.dialogs.answerFile(path("songs.txt")).answer(MsgResult::OK);
     f.mnuLoadSongSet.Click();
     EXPECT_EQ(tc.dialogs.texts().last(), "This is not a song set file");
-}
-
-TEST_F(SongSets, TheListOffersTheSetsOfTheProgramsDirectoryAndLoadsOnDoubleClick) {
-    Form1& f = form1();
-    write("Morning.EST", "/m/\r\nA\r\n/m/\r\nB\r\n");
-    tc.mp3.addFile("/m/A.MP3", 100, 2.6f);
-    f.mnuSongSets.Click();
-    ASSERT_EQ(f.lstSongSets.rows(), QStringList({"Morning"}));
-    f.lstSongSets.setListIndex(0);
-    f.lstSongSets.DblClick();
-    EXPECT_EQ(f.lstSongs.rows(), QStringList({"A", "B"}));
-    EXPECT_EQ(tc.mp3.openFile(), "/m/A.MP3") << "selecting the first row loads its song";
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
-// The tag write-back from the detail boxes and the limits on typing. (The tag's bytes are the
-// player's own, checked with it.)
+// The tag write-back from the detail boxes. (The tag's bytes are the player's own, checked with
+// it.)
 #include "LibraryFixture.h"
 
 using namespace sonarium;
@@ -26,18 +26,6 @@ TEST_F(Tags, UpdateTagWritesOnlyTheFilledBoxesButNotWhilePlaying) {
     tc.dialogs.answer(MsgResult::OK);
     f.cmdUpdateTag.Click();
     EXPECT_EQ(tc.dialogs.texts(), QStringList({"Can't update whilst track is playing"}));
-}
-
-TEST_F(Tags, FullBoxesDropPrintableKeysOnly) {
-    Form1& f = form1();
-    const auto press = [](TextBox& box, int key) {
-        box.onKeyPress(key);
-        return key;
-    };
-    f.txtYear.setText("1999");
-    EXPECT_EQ(press(f.txtYear, '1'), 0);
-    EXPECT_EQ(press(f.txtYear, 8), 8) << "backspace";
-    EXPECT_EQ(press(f.txtTrackTitle, ' '), 0) << "track titles take no blanks";
 }
 
 }  // namespace

@@ -1,13 +1,12 @@
 // The library scanner and the manual add, on the real library in a temporary directory: the
 // walk's order, what a new file's record holds, the count and its message, a filter in force,
-// a cancel, the 16-bit limit of the record loops, the dialog's faces and the manual update.
+// a cancel, the 16-bit limit of the record loops and the manual update.
 #include <unistd.h>
 
 #include <random>
 
 #include "LibraryFixture.h"
 #include "library/KnownPaths.h"
-#include "shell/FrmGeneral.h"
 
 using namespace sonarium;
 
@@ -188,37 +187,6 @@ TEST_F(Scanner, ALibraryPastTheRecordLoopsRangeKnowsNothing) {
     EXPECT_EQ(form1().lblRecords.Caption(), "32768");
     add({"known.MP3"});
     EXPECT_EQ(tc.dialogs.texts(), QStringList({"File Added"})) << "not found, and refused as a duplicate";
-}
-
-// Each command shows its face of the shared dialog, and closing puts back the design's (the
-// manual add face).
-TEST_F(Scanner, EachCommandShowsItsFaceOfTheDialog) {
-    FrmGeneral& g = general();
-    const auto face = [&] {
-        QStringList shown;
-        for (Control* c : g.allControls())
-            if (c->Visible() && c != &g.lblTitle && c != &g.lblVersion && c != &g.lblTagline)
-                shown << c->Name();
-        return shown.join(' ');
-    };
-    const QString manualAdd = "Label1 File1 Drive1 Dir1 chkSubs lblSubs cmdAdd CmdClose";
-    Form1& f = form1();
-    const std::pair<std::function<void()>, QString> cases[] = {
-        {[&] { f.cmdSearch.Click(); }, "lblStartFrom Drive1 Dir1 chkSubs lblSubs cmdOK cmdCancel"},
-        {[&] { f.mnuViewCriteria.Click(); }, "lblAutoSet List1 chkSubs lblSubs cmdOK"},
-        {[&] { f.mnuSelectSkin.Click(); }, "lblStartFrom Drive1 Dir1 cmdOK cmdCancel"},
-        {[&] { f.CmdDataAdd.Click(); }, manualAdd},
-    };
-    for (const auto& [command, expected] : cases) {
-        QString seen;
-        tc.loop.post([&] {
-            seen = face();
-            (g.cmdCancel.Visible() ? g.cmdCancel : g.cmdOK.Visible() ? g.cmdOK : g.CmdClose).Click();
-        });
-        command();
-        EXPECT_EQ(seen, expected);
-        EXPECT_EQ(face(), manualAdd) << expected.toStdString();
-    }
 }
 
 TEST_F(Scanner, ManualAddThenUpdateKeepsWhatTheUserTyped) {

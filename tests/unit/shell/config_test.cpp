@@ -21,22 +21,15 @@ protected:
     // skin, alarm time, alarm (menu and timer), caption, encoder menu (internal, rate shown).
     QString state() {
         Form1& f = form1();
+        const auto n = [](double v) { return QString::number(v); };
         const auto on = [](bool menu, bool other) { return QString::number(menu) + QString::number(other); };
-        return QStringList{QString::number(M().MiniMode),
-                           QString::number(M().VUMeterOn),
-                           M().DatabasePath,
-                           QString::number(f.PhotoWidth),
-                           QString::number(M().EncoderChoice),
-                           M().SkinPath,
-                           QString::number(f.mnuStopAfterSong.Checked()),
-                           QString::number(f.tmrInfo.Interval()),
-                           on(f.mnuTimerOn.Checked(), f.tmrInfo.Enabled()),
-                           M().MiniSkinPath,
-                           M().AlarmTime,
-                           on(f.mnuAlarmOnOff.Checked(), f.tmrAlarm.Enabled()),
-                           f.Caption(),
-                           on(f.mnuInternal.Checked(), f.cboSampleRate.Visible())}
-            .join(u'|');
+        QStringList fields;
+        fields << n(M().MiniMode) << n(M().VUMeterOn) << M().DatabasePath << n(f.PhotoWidth)
+               << n(M().EncoderChoice) << M().SkinPath << n(f.mnuStopAfterSong.Checked())
+               << n(f.tmrInfo.Interval()) << on(f.mnuTimerOn.Checked(), f.tmrInfo.Enabled())
+               << M().MiniSkinPath << M().AlarmTime << on(f.mnuAlarmOnOff.Checked(), f.tmrAlarm.Enabled())
+               << f.Caption() << on(f.mnuInternal.Checked(), f.cboSampleRate.Visible());
+        return fields.join(u'|');
     }
 };
 

@@ -3,10 +3,7 @@
 // a cancel, the 16-bit limit of the record loops and the manual update.
 #include <unistd.h>
 
-#include <random>
-
 #include "LibraryFixture.h"
-#include "library/KnownPaths.h"
 
 using namespace sonarium;
 
@@ -206,32 +203,6 @@ TEST_F(Scanner, ManualAddThenUpdateKeepsWhatTheUserTyped) {
     EXPECT_EQ(column("Song Title"), QStringList({"Second", ""}));
     EXPECT_EQ(column("Year"), QStringList({"2002", "0"}));
     EXPECT_EQ(column("Tempo"), QStringList({"Slow", ""}));
-}
-
-// The known names answer as a walk over positions 1 to a limit, comparing in upper case,
-// through every resize and overwrite.
-TEST(ScanKnownPaths, AnswerAsTheLinearUpperCaseSearch) {
-    KnownPathList known;
-    std::vector<QString> model;
-    std::mt19937 rng(11);
-    const QStringList names = {"/m/a.MP3", "/m/A.mp3", "/n/c.MP3", ""};
-    for (int round = 0; round < 3000; ++round) {
-        const int what = int(rng() % 10), at = int(rng() % 8) - 1;
-        const QString name = names[int(rng() % names.size())];
-        if (what == 0) {
-            known.resize(at);
-            model.resize(size_t(std::max(at + 1, 0)));
-        } else if (what < 6 && at >= 0 && at < int(model.size())) {
-            known.set(at, name);
-            model[size_t(at)] = name;
-        } else {
-            bool linear = false;
-            for (int i = 1; i <= at + 2 && i < int(model.size()); ++i)
-                linear = linear || model[size_t(i)].toUpper() == name.toUpper();
-            ASSERT_EQ(known.contains(name, at + 2), linear) << "round " << round;
-        }
-    }
-    EXPECT_THROW(known.set(known.last() + 1, "x"), RuntimeError);
 }
 
 }  // namespace

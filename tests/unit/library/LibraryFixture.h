@@ -9,16 +9,6 @@
 
 namespace sonarium {
 
-// The program started on fakes, for tests that need no library.
-class StartedProgram : public ProgramFixture {
-protected:
-    void SetUp() override {
-        ProgramFixture::SetUp();
-        program().Main();
-        tc.dialogs.clear();
-    }
-};
-
 class LibraryFixture : public ProgramFixture {
 protected:
     void SetUp() override {

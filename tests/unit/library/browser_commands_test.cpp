@@ -31,12 +31,6 @@ TEST_F(Browser, ADirectoryChangeNamesTheFolderAndItsPicture) {
     EXPECT_EQ(f.LastDir, "Jazz");
     f.Dir1.setPath(usb);
     EXPECT_EQ(f.LastDir, "");
-
-    // During a scan only the hidden file list follows.
-    f.SearchRunning = true;
-    f.Dir1.setPath(usb + "/Music");
-    EXPECT_EQ(f.CurrentDir, usb + "/");
-    EXPECT_EQ(f.Fillist.Path(), usb + "/Music");
 }
 
 // In the main window and in the scan dialog alike: asked until the user gives up, then the

@@ -6,7 +6,7 @@ using namespace sonarium;
 
 namespace {
 
-using SongSets = StartedProgram;
+using SongSets = LibraryFixture;
 
 TEST_F(SongSets, SavingWritesTwoLinesARowAndAppendsTheExtensionAfterTheQuestion) {
     Form1& f = form1();

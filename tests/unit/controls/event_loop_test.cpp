@@ -1,7 +1,7 @@
 // The virtual event loop's waits fail loudly instead of hanging a test. (Order of same-time
 // work, nested waits and the open timer that is not re-entered are the real loop's tests; every
 // unit test leans on the virtual loop keeping them too, and the Timer model's schedule is run
-// by the transport's fade, alarm and info timer tests.)
+// tick by tick by the fade and alarm tests.)
 #include <gtest/gtest.h>
 
 #include "VirtualEventLoop.h"

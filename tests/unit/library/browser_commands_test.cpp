@@ -1,6 +1,5 @@
-// The main window's file browser: the names a directory change makes (the picture's name one
-// letter short just below a volume's root), the retry on a drive that isn't ready in both
-// windows' drive lists, and the new directory of a right click.
+// The main window's file browser: the retry on a drive that isn't ready in both windows' drive
+// lists, and the new directory of a right click.
 #include "LibraryFixture.h"
 
 using namespace sonarium;
@@ -19,19 +18,6 @@ protected:
     }
     QString usb;
 };
-
-TEST_F(Browser, ADirectoryChangeNamesTheFolderAndItsPicture) {
-    Form1& f = form1();
-    f.Dir1.setPath(usb + "/Music");
-    EXPECT_EQ(f.CurrentDir, usb + "/Music/");
-    EXPECT_EQ(f.LastDir, "Musi") << "just below a root the name loses its last letter";
-    EXPECT_EQ(f.Fillist.Path(), usb + "/Music");
-    EXPECT_EQ(tc.pictures.calls().filter(usb).first(), "load(" + usb + "/Music/Musi.GIF)");
-    f.Dir1.setPath(usb + "/Music/Jazz");
-    EXPECT_EQ(f.LastDir, "Jazz");
-    f.Dir1.setPath(usb);
-    EXPECT_EQ(f.LastDir, "");
-}
 
 // In the main window and in the scan dialog alike: asked until the user gives up, then the
 // drive list goes back to the drive in use and the directory stays.

@@ -96,8 +96,7 @@ TEST_F(Criteria, DoubleClickRemovalRewritesTheFirstLineAndClearAsks) {
         list.AddItem(line);
     remove(0);
     EXPECT_EQ(lines(), QStringList({"Where [Album] Like (\"Gold\") "}));
-    remove(0);
-    EXPECT_TRUE(lines().isEmpty());
+    list.Clear();
 
     // Three: the new Where line goes to the end, and the list now starts with Or.
     for (const char* line :

@@ -10,7 +10,7 @@ class Browser : public ProgramFixture {
 protected:
     void SetUp() override {
         ProgramFixture::SetUp();
-        ASSERT_TRUE(QDir(dir.path()).mkpath("usb/Music/Jazz"));
+        ASSERT_TRUE(QDir(dir.path()).mkpath("usb/Music"));
         usb = path("usb");
         tc.volumes.add(usb, "Stick");
         program().Main();

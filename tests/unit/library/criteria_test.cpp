@@ -74,7 +74,6 @@ TEST_F(Criteria, AutoQueueAppendsTheMatchesInTheGridsOrder) {
     menu(3, "mnuAdd", 1);  // Blondie
     f.cmdAutoSet.Click();
     EXPECT_EQ(queue(), QStringList({"Already", "Song C", "Song A", "Song D"}));
-    EXPECT_EQ(source(), "Select * From SongData Order By [Artist]") << "no filter was on: the whole library";
 
     // Under a filter the grid stays on the criteria, while label and buttons keep the old one.
     menu(4, "mnuFilter", 0);

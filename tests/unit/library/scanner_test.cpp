@@ -78,7 +78,6 @@ TEST_F(Scanner, WalksSubdirectoriesLastToFirstDepthFirstWithFilesLastAndCounts) 
     scan(dir.path(), true);
     EXPECT_EQ(opened(), QStringList({"B/b1.MP3", "A/A2/x.MP3", "A/A1/deep.mp3", "A/a1.MP3", "top.MP3"}));
     EXPECT_EQ(said(0), "Auto Update: 5 new titles found");
-    EXPECT_EQ(form1().lblRecords.Caption(), "5");
 
     // A lower-case extension goes from the name all the same; lengths round to the even second
     // on a tie. (Every column of a tagged file is the real scan's test.)
@@ -136,10 +135,8 @@ TEST_F(Scanner, AFilterInForceCountsDuplicatesThatAreNotStored) {
     for (const char* name : {"d1/k.MP3", "d2/o.MP3", "new.MP3"}) song(name);
     addRecord(path("d1"), "k", "Keep");
     addRecord(path("d2"), "o", "Other");
-    data.setRecordSource(QStringLiteral("Select * From SongData Where [Artist] Like \"Keep*\""));
-    data.Refresh();
-    form1().UpdateRecordCount();
-    form1().SqlOrder = QStringLiteral("Order By [File]");
+    menu(3, "mnuFilter", 0);  // the artist of the first record only
+    ASSERT_EQ(form1().lblRecords.Caption(), "1");
     scan(dir.path(), true);
     EXPECT_EQ(opened(), QStringList({"d2/o.MP3", "d1/k.MP3", "new.MP3"}));
     EXPECT_EQ(tc.dialogs.texts(), QStringList({"3 new titles found"}));

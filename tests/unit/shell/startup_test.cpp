@@ -1,4 +1,5 @@
-// Start-up in its order, the command line, the first activation and F4. (The settings a
+// Start-up in its order, the command line and F4. (The library's attach on the first
+// activation is where every library test starts from. The settings a
 // first start takes are checked whole in the Config.dat it writes on closing; About's modal
 // splash is the main window's test.)
 #include "ProgramFixture.h"
@@ -69,18 +70,6 @@ TEST_F(StartUp, TheCommandLineIsTakenWhole) {
         EXPECT_EQ(form1().lstSongs.ListIndex(), c.rows.isEmpty() ? -1 : 0) << c.line;
     }
     EXPECT_TRUE(tc.dialogs.shown().empty()) << "no message for a refused argument";
-}
-
-TEST_F(StartUp, TheFirstActivationAttachesTheLibraryAndLaterOnesOnlyThePhoto) {
-    program().Main();
-    form1().Activate();  // the first attaches the library: every library test starts so
-    tc.data.clearCalls();
-    M().ReturnedFromMini = true;
-    form1().PanelPhoto.setVisible(false);
-    form1().Activate();
-    EXPECT_TRUE(tc.data.calls().isEmpty());
-    EXPECT_FALSE(M().ReturnedFromMini);
-    EXPECT_TRUE(form1().PanelPhoto.Visible());
 }
 
 TEST_F(StartUp, F4IsSwallowedUnlessTheEditorOrTheLibraryHasTheWindow) {

@@ -51,7 +51,6 @@ TEST_F(MainSkin, ColoursWithLabelsLenientNumbersAndShortFiles) {
         "Queue,heading\r\n abc, 300 ,7.5\r\nQueue text\r\n1,2,3\r\nGrid\r\nback\r\n4,5,6\r\ntext\r\n7,8,9\r\n"
         "Titles\r\ntext\r\n11,12,13\r\nDisplays\r\ntext\r\n14,15,16\r\n";
     load(skin("Full", &full));
-    EXPECT_EQ(form1().MousePointer(), DefaultPointer);
     EXPECT_EQ(colours(), QStringList({"10,20,30", "40,50,60", "0,255,8", "1,2,3", "4,5,6", "7,8,9",
                                       "11,12,13", "14,15,16"}));
 

@@ -35,6 +35,7 @@ TEST_F(EventLoopTest, WaitsThatCannotProgressThrowInsteadOfHanging) {
         5000, [] {}, true);
     const auto busy = loop.startTimer(100, [] {});
     expectStuck([&] { loop.waitUntil([] { return false; }); });
+    EXPECT_EQ(loop.now(), 1000);
     loop.stopTimer(busy);
 
     // A handler that waits inside itself again and again hits the depth limit.

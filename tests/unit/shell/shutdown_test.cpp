@@ -27,7 +27,6 @@ TEST_F(Shutdown, QuitWritesBackEveryFieldItReadAndLeavesMiniMode) {
         "/skins/Deck\r\n07:30\r\n 1 \r\n";
     write("Config.dat", " 1 \r\n" + rest);
     program().Main();
-    EXPECT_FALSE(form1().Visible());
     form1().mnuQuit.Click();
     EXPECT_EQ(read("Config.dat"), " 0 \r\n" + rest);
 }

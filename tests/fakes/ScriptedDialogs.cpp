@@ -62,12 +62,10 @@ ScriptedDialogs::Answer ScriptedDialogs::take(Shown shown) {
     return a;
 }
 
-MsgResult ScriptedDialogs::msgBox(const QString& text, MsgButtons buttons, MsgIcon icon,
-                                  const QString& title) {
+MsgResult ScriptedDialogs::msgBox(const QString& text, MsgButtons buttons, MsgIcon, const QString& title) {
     const std::vector<MsgResult> possible = possibleResults(buttons);
     Shown s = of(Kind::MsgBox, text, title);
     s.buttons = buttons;
-    s.icon = icon;
     if (autoOk_ && buttons == MsgButtons::OK && (script_.empty() || script_.front().kind != Kind::MsgBox)) {
         shown_.push_back(std::move(s));
         return MsgResult::OK;

@@ -22,7 +22,6 @@ public:
         QString text;   // message or prompt; file dialogs: their title; popup: the menu's Name
         QString title;  // message and input boxes
         MsgButtons buttons = MsgButtons::OK;
-        MsgIcon icon = MsgIcon::None;
         FileDialogRequest file;  // file dialogs
     };
 
@@ -43,7 +42,7 @@ public:
     void clear() { shown_.clear(), script_.clear(); }
 
     // --- Dialogs ---
-    MsgResult msgBox(const QString& text, MsgButtons buttons, MsgIcon icon, const QString& title) override;
+    MsgResult msgBox(const QString& text, MsgButtons buttons, MsgIcon, const QString& title) override;
     QString inputBox(const QString& prompt, const QString& title, const QString&) override {
         return take(of(Kind::InputBox, prompt, title)).text;
     }
@@ -59,10 +58,7 @@ public:
         take(of(Kind::Color));
         return std::nullopt;
     }
-    bool printerSetup() override {
-        take(of(Kind::Printer));
-        return false;
-    }
+    bool printerSetup() override { return take(of(Kind::Printer)).given; }
     QString chooseDirectory(const QString& prompt, const QString&) override {
         return take(of(Kind::Directory, prompt)).text;
     }

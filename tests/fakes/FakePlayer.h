@@ -163,18 +163,15 @@ private:
     // One frame at a time, each on its own single-shot timer.
     void startClock() {
         stopClock();
-        const int frameMs = std::max(1, FrameMs * speed_ / 100);
-        timer_ = loop_.startTimer(frameMs, guarded([this] {
-                                      timer_ = 0;
-                                      nextFrame();
-                                  }),
-                                  true);
+        timer_ =
+            loop_.startTimer(std::max(1, FrameMs * speed_ / 100), guarded([this] { nextFrame(); }), true);
     }
     void stopClock() {
         if (timer_) loop_.stopTimer(timer_);
         timer_ = 0;
     }
     void nextFrame() {
+        timer_ = 0;  // its single shot is spent
         if (++pos_ >= end_) return endRun();
         // The next frame is due before the handler runs: it may wait inside, and the song plays on.
         startClock();

@@ -44,7 +44,7 @@ public:
     // --- Dialogs ---
     MsgResult msgBox(const QString& text, MsgButtons buttons, MsgIcon, const QString& title) override;
     QString inputBox(const QString& prompt, const QString& title, const QString&) override {
-        return take(of(Kind::InputBox, prompt, title)).text;
+        return take({Kind::InputBox, prompt, title}).text;
     }
     QString openFile(const FileDialogRequest& request) override {
         return fileDialog(Kind::OpenFile, request);
@@ -55,12 +55,12 @@ public:
     MenuItem* popupMenu(MenuItem& menu) override;
     // No test scripts a colour, a printer or a directory: these fail the test and are cancelled.
     std::optional<Color> chooseColor(Color) override {
-        take(of(Kind::Color));
+        take({Kind::Color});
         return std::nullopt;
     }
-    bool printerSetup() override { return take(of(Kind::Printer)).given; }
+    bool printerSetup() override { return take({Kind::Printer}).given; }
     QString chooseDirectory(const QString& prompt, const QString&) override {
-        return take(of(Kind::Directory, prompt)).text;
+        return take({Kind::Directory, prompt}).text;
     }
 
 private:
@@ -71,11 +71,6 @@ private:
         bool given = false;  // false: the cancelling answer of an unexpected dialog
     };
 
-    static Shown of(Kind kind, const QString& text = {}, const QString& title = {}) {
-        Shown s;
-        s.kind = kind, s.text = text, s.title = title;
-        return s;
-    }
     ScriptedDialogs& script(Kind kind, const QString& text, MsgResult result = MsgResult::Cancel) {
         script_.push_back(Answer{kind, text, result, true});
         return *this;
@@ -84,9 +79,7 @@ private:
     // fails the test and gives the cancelling answer.
     Answer take(Shown shown);
     QString fileDialog(Kind kind, const FileDialogRequest& request) {
-        Shown s = of(kind, request.title);
-        s.file = request;
-        return take(std::move(s)).text;
+        return take({.kind = kind, .text = request.title, .file = request}).text;
     }
 
     std::deque<Answer> script_;

@@ -26,11 +26,7 @@ protected:
         }
     }
     QStringList rows() { return form1().lstSongs.rows(); }
-    QStringList dirs() {
-        QStringList out;
-        for (int i = 0; i < form1().lstSongs.ListCount(); ++i) out << M().SongPath[std::size_t(i)];
-        return out;
-    }
+    QStringList dirs() { return {M().SongPath.begin(), M().SongPath.begin() + form1().lstSongs.ListCount()}; }
     void play() { form1().BtnPlay.MouseUp(LeftButton, 0, 0, 0); }
     void pause() { form1().BtnPause.MouseUp(LeftButton, 0, 0, 0); }
     void stop() { form1().BtnStop.MouseUp(LeftButton, 0, 0, 0); }

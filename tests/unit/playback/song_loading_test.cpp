@@ -1,6 +1,6 @@
 // GetSong: the tag read straight from the file (with its "TAG"-anywhere search and the lost
-// 30th comment character), the retry question, lengths and frame rate, and the photo's tries
-// and sizing. Also the running time of the queue.
+// 30th comment character), the retry question, and the photo's tries and sizing. Also the
+// running time of the queue.
 #include <QDir>
 
 #include "PlaybackFixture.h"
@@ -91,19 +91,6 @@ TEST_F(SongLoading, AFailedOpenAsksUntilYesOpensItAgainWithoutTheWavNameAndNoGiv
     EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files).filter("gone", Qt::CaseInsensitive), QStringList());
     EXPECT_EQ(f.txtTitle.Text(), "");
     EXPECT_FALSE(f.Fading);
-}
-
-TEST_F(SongLoading, LengthAndFrameRateAndASongUnderASecondKeepsTheRateBefore) {
-    Form1& f = form1();
-    queue({"A", "B"});
-    tc.mp3.addFile("/m/A.MP3", 9570, 250.4f, 192, 48000);
-    tc.mp3.addFile("/m/B.MP3", 12, 0.3f);
-    EXPECT_TRUE(load(0));
-    EXPECT_EQ(f.FramesPerSecond, 38) << "9570 / 250 = 38.28";
-    EXPECT_EQ(f.lblSongDuration.Caption(), "04:10");
-    EXPECT_TRUE(load(1));
-    EXPECT_EQ(f.SongLength, 0);
-    EXPECT_EQ(f.FramesPerSecond, 38);
 }
 
 // The main window's photo and the mini player's each try the folder's name, then the song's,

@@ -62,11 +62,9 @@ public:
             if (queue_.empty()) stuck(QStringLiteral("nothing is scheduled (at %1 ms)").arg(now_));
             const std::int64_t next = queue_.begin()->first.due;
             if (next > start + waitLimit_)
-                stuck(QStringLiteral("nothing falls due within %1 ms of the wait's start at %2 ms "
-                                     "(next at %3 ms)")
-                          .arg(waitLimit_)
-                          .arg(start)
-                          .arg(next));
+                stuck(QStringLiteral(
+                          "nothing falls due within %1 ms of the wait's start at %2 ms (next at %3 ms)")
+                          .arg(QString::number(waitLimit_), QString::number(start), QString::number(next)));
             now_ = next;
             passes = 0;
             runPass();

@@ -8,8 +8,7 @@ namespace sonarium {
 
 class PlaybackFixture : public ProgramFixture {
 protected:
-    static constexpr int SongFrames = 100;  // 2.6 s at the fake's 26 ms a frame
-    static constexpr int SongMs = 2600;
+    static constexpr int SongMs = 2600;  // 100 frames at the fake's 26 ms a frame
 
     void SetUp() override {
         ProgramFixture::SetUp();
@@ -22,7 +21,7 @@ protected:
         for (const QString& t : titles) {
             form1().lstSongs.AddItem(t);
             M().SongPath[std::size_t(form1().lstSongs.NewIndex())] = dir;
-            if (!dir.isEmpty()) tc.mp3.addFile(dir + t + ".MP3", SongFrames, SongMs / 1000.0f);
+            if (!dir.isEmpty()) tc.mp3.addFile(dir + t + ".MP3", 100, SongMs / 1000.0f);
         }
     }
     QStringList rows() { return form1().lstSongs.rows(); }

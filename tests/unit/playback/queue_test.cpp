@@ -10,13 +10,6 @@ namespace {
 
 class Queue : public PlaybackFixture {
 protected:
-    // Empty files named Song01.MP3 ... in a directory of the test's own, which becomes CurrentDir.
-    void titlesOnDisk(int count) {
-        for (int i = 1; i <= count; ++i)
-            write(QStringLiteral("Song%1.MP3").arg(i, 2, 10, QLatin1Char('0')), {});
-        form1().CurrentDir = dir.path() + u'/';
-        form1().GetTitles();
-    }
     QStringList captions() {
         QStringList out;
         for (auto& label : form1().Title) out << label->Caption();
@@ -25,9 +18,11 @@ protected:
 };
 
 TEST_F(Queue, TheTitlePanePagesByTwelveAndItsTitlesEnterTheQueue) {
-    titlesOnDisk(12);
+    for (int i = 1; i <= 12; ++i) write(QStringLiteral("Song%1.MP3").arg(i, 2, 10, QLatin1Char('0')), {});
     Form1& f = form1();
     const QString here = dir.path() + u'/';
+    f.CurrentDir = here;
+    f.GetTitles();
     f.cmdDown.Click();  // 12 is not greater than 12: the page stays, and it is empty
     f.cmdDown.Click();  // 24 > 12 takes one page back: the same empty page
     EXPECT_EQ(f.TitleTop, 12);

@@ -19,10 +19,10 @@ public:
 
     struct Shown {
         Kind kind = Kind::MsgBox;
-        QString text;   // message or prompt; file dialogs: their title; popup: the menu's Name
-        QString title;  // message and input boxes
+        QString text = {};   // message or prompt; file dialogs: their title; popup: the menu's Name
+        QString title = {};  // message and input boxes
         MsgButtons buttons = MsgButtons::OK;
-        FileDialogRequest file;  // file dialogs
+        FileDialogRequest file = {};  // file dialogs
     };
 
     // --- Script (each adds one answer at the end) ---

@@ -1,5 +1,5 @@
 // Mixer.dat and .TB files byte for byte, the queue they bring back with the comma shift, LoadTB's
-// return to the defaults, and the sliders' drag rules.
+// return to the defaults, and a tone slider's drag.
 #include "PlaybackFixture.h"
 
 using namespace sonarium;

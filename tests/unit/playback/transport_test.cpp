@@ -178,7 +178,6 @@ TEST_F(Transport, TheMediaControlsReadTheLoadedRowsSongAndSetTheVolumeAsTheSlide
     EXPECT_EQ(song.url, "file://" + QString::fromLatin1(QUrl::toPercentEncoding(dir.path(), "/")) +
                             "/Blue%20Monday.mp3");
     play();
-
     form1().lstSongs.setListIndex(1);
     EXPECT_EQ(mc.song().title, "Untagged") << "the row's text stands in for a missing title";
     EXPECT_EQ(mc.song().url, "file:///m/Untagged.MP3");

@@ -14,10 +14,7 @@ public:
     // The exit code of the quit request, if one came.
     std::optional<int> quitCode() const { return quitCode_; }
 
-    QStringList screenFonts() override {
-        return {QStringLiteral("DejaVu Sans"), QStringLiteral("DejaVu Sans Mono"),
-                QStringLiteral("DejaVu Serif"), QStringLiteral("Liberation Sans")};
-    }
+    QStringList screenFonts() override { return {"DejaVu Sans", "DejaVu Serif"}; }
     QSize screenSizeTwips() override { return {1920 * 15, 1080 * 15}; }
     QPoint cursorPosTwips() override { return {0, 0}; }
     bool openDocument(const QString&) override { return true; }

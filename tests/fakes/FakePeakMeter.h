@@ -9,7 +9,6 @@ namespace sonarium {
 class FakePeakMeter : public PeakMeter {
 public:
     // --- Set-up (tests) ---
-    void setOpenResult(int result) { openResult_ = result; }
     void setFindResult(bool found) { found_ = found; }
     void setMaximum(std::int32_t maximum) { maximum_ = maximum; }
     // Each Read takes the next reading; the last one then repeats. Default: one reading of 0.
@@ -19,7 +18,7 @@ public:
     bool prepared() const { return prepared_; }
 
     // --- PeakMeter ---
-    int OpenMixer() override { return openResult_; }
+    int OpenMixer() override { return 0; }
     bool FindPeakControl() override { return found_; }
     std::int32_t Maximum() override { return maximum_; }
     bool Prepare() override { return prepared_ = true; }
@@ -32,7 +31,6 @@ public:
     }
 
 private:
-    int openResult_ = 0;
     bool found_ = true, prepared_ = false;
     std::int32_t maximum_ = 32768;
     std::vector<std::int32_t> readings_{0};

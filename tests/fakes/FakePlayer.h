@@ -11,8 +11,9 @@
 //   posted, so it arrives after Stop has returned.
 // - Open of a file that was not registered fails with 1; failOpen makes a registered one fail.
 // - SetSpeed scales the frame duration (speed 50 plays twice as fast).
-// - WriteTag writes the fields set since the last Open into the file of that Open.
+// - The tag reads what addFile registered; tag edits and WriteTag are only recorded.
 #include <QHash>
+#include <algorithm>
 
 #include "CallLog.h"
 #include "controls/EventLoop.h"
@@ -47,25 +48,69 @@ public:
     // --- Looking in (tests) ---
     State state() const { return state_; }
     QString openFile() const { return state_ == State::Closed ? QString() : file_; }
-    // The tag of a registered file, as WriteTag left it.
-    Id3Fields tagOf(const QString& path) const { return files_.value(path.toUpper()).tag; }
 
     // --- Mp3Player ---
-    std::int16_t Open(const QString& file, const QString& wav) override;
-    void Close() override;
-    void Play() override;
-    // The program never plays a range; the call is only recorded.
-    void PlayRange(std::int32_t startFrame, std::int32_t endFrame) override {
-        record("PlayRange", startFrame, endFrame);
+    // The WAV name is only recorded: the fake writes no file.
+    std::int16_t Open(const QString& file, const QString& wav) override {
+        record("Open", file, wav);
+        closeFile();
+        ends_.opened();
+        auto it = files_.find(file.toUpper());
+        const bool fails = it == files_.end() || it->frames <= 0 || it->failuresLeft != 0;
+        if (it != files_.end() && it->failuresLeft > 0) --it->failuresLeft;
+        if (fails) {
+            ends_.closed();
+            return 1;
+        }
+        file_ = file;
+        state_ = State::Ready;
+        pos_ = 0;
+        end_ = it->frames;
+        return 0;
     }
-    void Pause() override;
-    void Stop() override;
-    std::int16_t SeekFrame(std::int32_t frame) override;
+    void Close() override {
+        record("Close");
+        closeFile();
+    }
+    void Play() override {
+        record("Play");
+        if (state_ == State::Ready || state_ == State::Paused)
+            startRun(pos_);
+        else if (state_ == State::Ended)
+            startRun(0);
+    }
+    // The program never plays a range; the call is only recorded.
+    void PlayRange(std::int32_t from, std::int32_t to) override { record("PlayRange", from, to); }
+    void Pause() override {
+        record("Pause");
+        if (state_ != State::Playing) return;
+        stopClock();
+        state_ = State::Paused;
+    }
+    void Stop() override {
+        record("Stop");
+        if (state_ == State::Playing || state_ == State::Paused)
+            endRun();
+        else if (const StreamEndRule::Token t = ends_.stopWithoutRun())
+            raiseStreamEnd(t);
+    }
+    std::int16_t SeekFrame(std::int32_t frame) override {
+        record("SeekFrame", frame);
+        if (state_ == State::Closed || frame < 0 || frame > end_) return 1;
+        pos_ = frame;
+        if (state_ == State::Playing) startClock();
+        return 0;
+    }
     std::int16_t SetVolume(std::int16_t left, std::int16_t right) override {
         record("SetVolume", left, right);
         return 0;
     }
-    std::int16_t SetSpeed(std::int16_t speed) override;
+    std::int16_t SetSpeed(std::int16_t speed) override {
+        record("SetSpeed", speed);
+        speed_ = speed;
+        if (state_ == State::Playing) startClock();
+        return 0;
+    }
     void setNotifyInterval(std::int16_t frames) override {
         record("NotifyInterval", frames);
         interval_ = frames;
@@ -85,17 +130,13 @@ public:
     std::int16_t TagGenre() override { return open().tag.genre; }
     QString GenreName(std::int16_t genre) override { return QStringLiteral("Genre %1").arg(genre); }
 
-    void SetTagTitle(const QString& v) override { edit("SetTagTitle", tag_.title, v); }
-    void SetTagArtist(const QString& v) override { edit("SetTagArtist", tag_.artist, v); }
-    void SetTagAlbum(const QString& v) override { edit("SetTagAlbum", tag_.album, v); }
-    void SetTagComment(const QString& v) override { edit("SetTagComment", tag_.comment, v); }
-    void SetTagYear(std::int16_t v) override { edit("SetTagYear", tag_.year, v); }
-    void SetTagGenre(std::int16_t v) override { edit("SetTagGenre", tag_.genre, v); }
-    // The tag as the last Open read it, with the fields set since, into that Open's file.
-    void WriteTag() override {
-        record("WriteTag");
-        if (files_.contains(file_.toUpper())) files_[file_.toUpper()].tag = tag_;
-    }
+    void SetTagTitle(const QString& v) override { record("SetTagTitle", v); }
+    void SetTagArtist(const QString& v) override { record("SetTagArtist", v); }
+    void SetTagAlbum(const QString& v) override { record("SetTagAlbum", v); }
+    void SetTagComment(const QString& v) override { record("SetTagComment", v); }
+    void SetTagYear(std::int16_t v) override { record("SetTagYear", v); }
+    void SetTagGenre(std::int16_t v) override { record("SetTagGenre", v); }
+    void WriteTag() override { record("WriteTag"); }
 
 private:
     struct File {
@@ -106,20 +147,57 @@ private:
         Id3Fields tag;
         int failuresLeft = 0;  // -1: always
     };
-    template <typename T>
-    void edit(const char* call, T& field, const T& value) {
-        record(call, value);
-        field = value;
-    }
+
     // The open file; with none, a file of nothing.
-    const File& open() const;
-    void startRun(std::int32_t from);
-    void startClock();
-    void stopClock();
-    void nextFrame();
-    void endRun();
-    void raiseStreamEnd(StreamEndRule::Token token);
-    void closeFile();  // ends a run that plays or is paused, then closes
+    const File& open() const {
+        static const File none;
+        auto it = files_.find(file_.toUpper());
+        return state_ == State::Closed || it == files_.end() ? none : *it;
+    }
+    void startRun(std::int32_t from) {
+        pos_ = from;
+        state_ = State::Playing;
+        runToken_ = ends_.runStarted();
+        startClock();
+    }
+    // One frame at a time, each on its own single-shot timer.
+    void startClock() {
+        stopClock();
+        timer_ =
+            loop_.startTimer(std::max(1, FrameMs * speed_ / 100), guarded([this] { nextFrame(); }), true);
+    }
+    void stopClock() {
+        if (timer_) loop_.stopTimer(timer_);
+        timer_ = 0;
+    }
+    void nextFrame() {
+        timer_ = 0;  // its single shot is spent
+        if (++pos_ >= end_) return endRun();
+        // The next frame is due before the handler runs: it may wait inside, and the song plays on.
+        startClock();
+        if (interval_ > 0 && pos_ % interval_ == 0 && onFrameNotify) onFrameNotify(pos_);
+    }
+    void endRun() {
+        stopClock();
+        state_ = State::Ended;
+        raiseStreamEnd(runToken_);
+    }
+    void raiseStreamEnd(StreamEndRule::Token token) {
+        loop_.post(guarded([this, token] {
+            if (!ends_.deliver(token)) return;
+            record("event StreamEnd");
+            if (onStreamEnd) onStreamEnd();
+        }));
+    }
+    // Ends a run that plays or is paused, then closes.
+    void closeFile() {
+        if (state_ == State::Playing || state_ == State::Paused)
+            ends_.runSilenced(runToken_);
+        else
+            ends_.closed();
+        stopClock();
+        state_ = State::Closed;
+    }
 
     EventLoop& loop_;
     QHash<QString, File> files_;  // by upper-case path
@@ -127,8 +205,7 @@ private:
     State state_ = State::Closed;
     StreamEndRule ends_;
     StreamEndRule::Token runToken_ = 0;
-    QString file_;  // it stays WriteTag's target after Close
-    Id3Fields tag_;  // for WriteTag
+    QString file_;
     std::int32_t pos_ = 0, end_ = 0;
     EventLoop::TimerId timer_ = 0;
     std::int16_t speed_ = 100, interval_ = 32;

@@ -1,6 +1,7 @@
 #pragma once
 // Volumes a test makes up: usually directories of a temporary tree standing in for mounts, each
-// with a ready flag so that a drive that isn't ready can be tried.
+// ready unless the test says otherwise, so that a drive that isn't ready can be tried.
+#include <QSet>
 #include <QString>
 #include <algorithm>
 #include <vector>
@@ -12,33 +13,29 @@ namespace sonarium {
 class FakeVolumes : public Volumes {
 public:
     // Appends a volume to the list; list() keeps the order of adding.
-    void add(const QString& root, const QString& label = {}, bool ready = true) {
-        entries_.push_back({{root, label.isEmpty() ? root.section(u'/', -1) : label}, ready});
+    void add(const QString& root, const QString& label = {}) {
+        volumes_.push_back({root, label.isEmpty() ? root.section(u'/', -1) : label});
     }
     void remove(const QString& root) {
-        std::erase_if(entries_, [&](const Entry& e) { return e.volume.root == root; });
+        std::erase_if(volumes_, [&](const Volume& v) { return v.root == root; });
+        notReady_.remove(root);
     }
     void setReady(const QString& root, bool ready) {
-        for (Entry& e : entries_)
-            if (e.volume.root == root) e.ready = ready;
+        if (ready)
+            notReady_.remove(root);
+        else
+            notReady_.insert(root);
     }
 
-    std::vector<Volume> list() override {
-        std::vector<Volume> out;
-        for (const Entry& e : entries_) out.push_back(e.volume);
-        return out;
-    }
+    std::vector<Volume> list() override { return volumes_; }
     bool ready(const QString& root) override {
-        return std::any_of(entries_.begin(), entries_.end(),
-                           [&](const Entry& e) { return e.volume.root == root && e.ready; });
+        return !notReady_.contains(root) &&
+               std::any_of(volumes_.begin(), volumes_.end(), [&](const Volume& v) { return v.root == root; });
     }
 
 private:
-    struct Entry {
-        Volume volume;
-        bool ready;
-    };
-    std::vector<Entry> entries_;
+    std::vector<Volume> volumes_;
+    QSet<QString> notReady_;
 };
 
 }  // namespace sonarium

@@ -1,7 +1,7 @@
 #pragma once
 // The encoder, CD reader and child processes for tests of everything but conversion: each does
-// nothing, as a machine with no encoder, no drive and nothing to start, but keeps the settings
-// start-up gives them. Conversion's tests will bring fakes that run jobs on the virtual clock.
+// nothing, as a machine with no encoder, no drive and nothing to start, but the encoder keeps the
+// bit rate start-up gives it. Conversion's tests will bring fakes that run jobs on the virtual clock.
 #include "controls/CdReader.h"
 #include "controls/ChildProcess.h"
 #include "controls/Mp3Encoder.h"
@@ -11,23 +11,21 @@ namespace sonarium {
 class IdleEncoder : public Mp3Encoder {
 public:
     void setEncoderBitRate(double r) override { bitRate_ = r; }
-    void setEncoderSampleRate(double r) override { sampleRate_ = r; }
+    void setEncoderSampleRate(double) override {}
     double bitRate() const { return bitRate_; }
-    double sampleRate() const { return sampleRate_; }
     std::int16_t OpenFiles(const QString&, const QString&) override { return 1; }
     std::int32_t EncodeTotal() override { return 0; }
     void StartEncoding() override {}
     void StopEncoding() override {}
 
 private:
-    double bitRate_ = 0, sampleRate_ = 0;
+    double bitRate_ = 0;
 };
 
 class IdleCdReader : public CdReader {
 public:
     std::int16_t InitCD() override { return 0; }
-    void SelectDrive(std::int16_t d) override { drive_ = d; }
-    std::int16_t selectedDrive() const { return drive_; }
+    void SelectDrive(std::int16_t) override {}
     std::int16_t DriveCount() override { return 0; }
     QString DriveName(std::int16_t) override { return {}; }
     std::int16_t TrackCount() override { return 0; }
@@ -38,9 +36,6 @@ public:
     void StopExtract() override {}
     void OpenTray() override {}
     void CloseTray() override {}
-
-private:
-    std::int16_t drive_ = 0;
 };
 
 class IdleProcesses : public ChildProcesses {

@@ -62,12 +62,9 @@ ScriptedDialogs::Answer ScriptedDialogs::take(Shown shown) {
     return a;
 }
 
-MsgResult ScriptedDialogs::msgBox(const QString& text, MsgButtons buttons, MsgIcon icon,
-                                  const QString& title) {
+MsgResult ScriptedDialogs::msgBox(const QString& text, MsgButtons buttons, MsgIcon, const QString& title) {
     const std::vector<MsgResult> possible = possibleResults(buttons);
-    Shown s = of(Kind::MsgBox, text, title);
-    s.buttons = buttons;
-    s.icon = icon;
+    Shown s{Kind::MsgBox, text, title, buttons};
     if (autoOk_ && buttons == MsgButtons::OK && (script_.empty() || script_.front().kind != Kind::MsgBox)) {
         shown_.push_back(std::move(s));
         return MsgResult::OK;
@@ -83,7 +80,7 @@ MsgResult ScriptedDialogs::msgBox(const QString& text, MsgButtons buttons, MsgIc
 }
 
 MenuItem* ScriptedDialogs::popupMenu(MenuItem& menu) {
-    const Answer a = take(of(Kind::Popup, menu.Name()));
+    const Answer a = take({Kind::Popup, menu.Name()});
     if (a.text.isEmpty()) return nullptr;
     MenuItem* chosen = findEntry(menu, a.text);
     if (!chosen)

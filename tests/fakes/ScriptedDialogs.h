@@ -19,11 +19,10 @@ public:
 
     struct Shown {
         Kind kind = Kind::MsgBox;
-        QString text;   // message or prompt; file dialogs: their title; popup: the menu's Name
-        QString title;  // message and input boxes
+        QString text = {};   // message or prompt; file dialogs: their title; popup: the menu's Name
+        QString title = {};  // message and input boxes
         MsgButtons buttons = MsgButtons::OK;
-        MsgIcon icon = MsgIcon::None;
-        FileDialogRequest file;  // file dialogs
+        FileDialogRequest file = {};  // file dialogs
     };
 
     // --- Script (each adds one answer at the end) ---
@@ -43,9 +42,9 @@ public:
     void clear() { shown_.clear(), script_.clear(); }
 
     // --- Dialogs ---
-    MsgResult msgBox(const QString& text, MsgButtons buttons, MsgIcon icon, const QString& title) override;
+    MsgResult msgBox(const QString& text, MsgButtons buttons, MsgIcon, const QString& title) override;
     QString inputBox(const QString& prompt, const QString& title, const QString&) override {
-        return take(of(Kind::InputBox, prompt, title)).text;
+        return take({Kind::InputBox, prompt, title}).text;
     }
     QString openFile(const FileDialogRequest& request) override {
         return fileDialog(Kind::OpenFile, request);
@@ -56,15 +55,12 @@ public:
     MenuItem* popupMenu(MenuItem& menu) override;
     // No test scripts a colour, a printer or a directory: these fail the test and are cancelled.
     std::optional<Color> chooseColor(Color) override {
-        take(of(Kind::Color));
+        take({Kind::Color});
         return std::nullopt;
     }
-    bool printerSetup() override {
-        take(of(Kind::Printer));
-        return false;
-    }
+    bool printerSetup() override { return take({Kind::Printer}).given; }
     QString chooseDirectory(const QString& prompt, const QString&) override {
-        return take(of(Kind::Directory, prompt)).text;
+        return take({Kind::Directory, prompt}).text;
     }
 
 private:
@@ -75,11 +71,6 @@ private:
         bool given = false;  // false: the cancelling answer of an unexpected dialog
     };
 
-    static Shown of(Kind kind, const QString& text = {}, const QString& title = {}) {
-        Shown s;
-        s.kind = kind, s.text = text, s.title = title;
-        return s;
-    }
     ScriptedDialogs& script(Kind kind, const QString& text, MsgResult result = MsgResult::Cancel) {
         script_.push_back(Answer{kind, text, result, true});
         return *this;
@@ -88,9 +79,7 @@ private:
     // fails the test and gives the cancelling answer.
     Answer take(Shown shown);
     QString fileDialog(Kind kind, const FileDialogRequest& request) {
-        Shown s = of(kind, request.title);
-        s.file = request;
-        return take(std::move(s)).text;
+        return take({.kind = kind, .text = request.title, .file = request}).text;
     }
 
     std::deque<Answer> script_;

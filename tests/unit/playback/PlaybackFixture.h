@@ -8,8 +8,7 @@ namespace sonarium {
 
 class PlaybackFixture : public ProgramFixture {
 protected:
-    static constexpr int SongFrames = 100;  // 2.6 s at the fake's 26 ms a frame
-    static constexpr int SongMs = 2600;
+    static constexpr int SongMs = 2600;  // 100 frames at the fake's 26 ms a frame
 
     void SetUp() override {
         ProgramFixture::SetUp();
@@ -22,15 +21,11 @@ protected:
         for (const QString& t : titles) {
             form1().lstSongs.AddItem(t);
             M().SongPath[std::size_t(form1().lstSongs.NewIndex())] = dir;
-            if (!dir.isEmpty()) tc.mp3.addFile(dir + t + ".MP3", SongFrames, SongMs / 1000.0f);
+            if (!dir.isEmpty()) tc.mp3.addFile(dir + t + ".MP3", 100, SongMs / 1000.0f);
         }
     }
     QStringList rows() { return form1().lstSongs.rows(); }
-    QStringList dirs() {
-        QStringList out;
-        for (int i = 0; i < form1().lstSongs.ListCount(); ++i) out << M().SongPath[std::size_t(i)];
-        return out;
-    }
+    QStringList dirs() { return {M().SongPath.begin(), M().SongPath.begin() + form1().lstSongs.ListCount()}; }
     void play() { form1().BtnPlay.MouseUp(LeftButton, 0, 0, 0); }
     void pause() { form1().BtnPause.MouseUp(LeftButton, 0, 0, 0); }
     void stop() { form1().BtnStop.MouseUp(LeftButton, 0, 0, 0); }

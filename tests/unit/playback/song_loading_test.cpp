@@ -1,6 +1,6 @@
 // GetSong: the tag read straight from the file (with its "TAG"-anywhere search and the lost
-// 30th comment character), the retry question, lengths and frame rate, and the photo's tries
-// and sizing. Also the running time of the queue.
+// 30th comment character), the retry question, and the photo's tries and sizing. Also the
+// running time of the queue.
 #include <QDir>
 
 #include "PlaybackFixture.h"
@@ -22,11 +22,6 @@ TEST_F(SongLoading, TheTagIsCutFromWhereverTagStandsInTheLastBytes) {
     Form1& f = form1();
     f.cboGenre.Clear();
     for (const char* g : {"Blues", "Classic Rock", "Country"}) f.cboGenre.AddItem(g);
-    // A tag padded with blanks, as other tools write it.
-    const auto tag = [](const QByteArray& title, const QByteArray& comment, unsigned char genre) {
-        return QByteArray(400, 'x') +
-               fixtures::id3v1Block(title, "Artist", "Album", "1999", comment, genre, ' ');
-    };
     const auto pad = [](const QString& s) { return s.leftJustified(30, u' '); };
     QByteArray moved(500, 'x');
     moved.replace(500 - 127 + 49, 12, "TAGSomewhere");
@@ -34,13 +29,14 @@ TEST_F(SongLoading, TheTagIsCutFromWhereverTagStandsInTheLastBytes) {
         QByteArray bytes;
         QStringList fields;  // title, artist, album, year, comment
     } cases[] = {
-        // Padding stays, and the comment loses its 30th character.
-        {tag("Caf\xE9 \x80", "ABCDEFGHIJKLMNOPQRSTUVWXYZ0123", 2),
+        // Padded with blanks, as other tools write it: the padding stays, and the comment loses
+        // its 30th character.
+        {QByteArray(400, 'x') + fixtures::id3v1Block("Caf\xE9 \x80", "Artist", "Album", "1999",
+                                                     "ABCDEFGHIJKLMNOPQRSTUVWXYZ0123", 2, ' '),
          {pad(QString::fromUtf8("Café €")), pad("Artist"), pad("Album"), "1999",
           "ABCDEFGHIJKLMNOPQRSTUVWXYZ012"}},
-        // Genre 200 lies past the list, as do the last bytes of the rows after.
-        {tag("Second", "", 200), {pad("Second"), pad("Artist"), pad("Album"), "1999", QString(29, u' ')}},
         // "TAG" 50 bytes into the block of 127: the fields are cut from there, 127 - 53 in all.
+        // This row's last byte and the next rows' lie past the list of genres.
         {moved + "!", {"Somewhere" + QString(21, 'x'), QString(30, 'x'), QString(14, 'x'), "", ""}},
         // Fewer than 128 bytes: what lies before the last byte is searched.
         {"xxTAGShort one!", {"Short one", "", "", "", ""}},
@@ -59,7 +55,7 @@ TEST_F(SongLoading, TheTagIsCutFromWhereverTagStandsInTheLastBytes) {
         ++row;
     }
     EXPECT_EQ(f.cboGenre.ListIndex(), 2) << "a genre number past the list leaves the selection";
-    EXPECT_EQ(M().MiniTitleText, QString("S4 -  -    ").repeated(4))
+    EXPECT_EQ(M().MiniTitleText, QString("S3 -  -    ").repeated(4))
         << "the row text stands in for the title";
 }
 
@@ -71,7 +67,6 @@ TEST_F(SongLoading, AFailedOpenAsksUntilYesOpensItAgainWithoutTheWavNameAndNoGiv
     tc.dialogs.answer(MsgResult::Yes).answer(MsgResult::Yes);
     EXPECT_TRUE(load(0));
     EXPECT_EQ(tc.dialogs.texts(), QStringList(2, "Open failed on /m/A.MP3 Retry?"));
-    EXPECT_EQ(tc.dialogs.shown()[0].buttons, MsgButtons::YesNo);
     EXPECT_EQ(tc.mp3.calls().filter("Open"),
               QStringList({"Open(/m/A.MP3,/m/A.WAV)", "Open(/m/A.MP3,)", "Open(/m/A.MP3,)"}))
         << "a retry plays the song instead of decoding it";
@@ -84,7 +79,6 @@ TEST_F(SongLoading, AFailedOpenAsksUntilYesOpensItAgainWithoutTheWavNameAndNoGiv
     play();
     EXPECT_EQ(tc.dialogs.shown().size(), 2u);
     EXPECT_EQ(transport(), "idle");
-    EXPECT_FALSE(tc.mp3.calls().contains("Play"));
 
     // A missing file: No ends a fade's bookkeeping, and the file is never created.
     f.txtTitle.setText("old");
@@ -99,80 +93,42 @@ TEST_F(SongLoading, AFailedOpenAsksUntilYesOpensItAgainWithoutTheWavNameAndNoGiv
     EXPECT_FALSE(f.Fading);
 }
 
-TEST_F(SongLoading, LengthAndFrameRateAndASongUnderASecondKeepsTheRateBefore) {
-    Form1& f = form1();
-    queue({"A", "B"});
-    tc.mp3.addFile("/m/A.MP3", 9570, 250.4f, 192, 48000);
-    tc.mp3.addFile("/m/B.MP3", 12, 0.3f);
-    EXPECT_TRUE(load(0));
-    EXPECT_EQ(f.TotalFrames, 9570);
-    EXPECT_EQ(f.FramesPerSecond, 38) << "9570 / 250 = 38.28";
-    EXPECT_EQ(f.lblSongDuration.Caption(), "04:10");
-    EXPECT_EQ(M().SongFile, "/m/A.MP3");
-
-    EXPECT_TRUE(load(1));
-    EXPECT_EQ(f.SongLength, 0);
-    EXPECT_EQ(f.FramesPerSecond, 38);
-    EXPECT_EQ(f.lblTime.Caption(), "00:00");
-}
-
-TEST_F(SongLoading, PhotosAreTriedFolderThenSongGifBmpJpgAndTheLastThatLoadsWins) {
+// The main window's photo and the mini player's each try the folder's name, then the song's,
+// as GIF, BMP and JPG; the last that loads wins. The two known widths (the square one shows its
+// frames) stay, any other takes the chosen width.
+TEST_F(SongLoading, PhotosAreTriedInTurnAndTheLastThatLoadsIsSizedToItsFrame) {
     Form1& f = form1();
     queue({"Song"}, "/music/Blues/");
     tc.pictures.add("/music/Blues/Blues.JPG", 231, 40);
     tc.pictures.add("/music/Blues/Song.bmp", 128, 128);
     tc.pictures.addInvalid("/music/Blues/Song.JPG");
+    f.PhotoWidth = 3465;
     EXPECT_TRUE(load(0));
     const QStringList tries = {"load(/music/Blues/Blues.GIF)", "load(/music/Blues/Blues.BMP)",
                                "load(/music/Blues/Blues.JPG)", "load(/music/Blues/Song.GIF)",
                                "load(/music/Blues/Song.BMP)",  "load(/music/Blues/Song.JPG)"};
-    EXPECT_EQ(tc.pictures.calls(), tries + tries) << "the main window's photo, then the mini player's";
+    EXPECT_EQ(tc.pictures.calls(), tries + tries);
     EXPECT_EQ(f.Photo.picture().source(), "/music/Blues/Song.bmp");
     EXPECT_EQ(program().frmMiniPlayer.Photo.picture().source(), "/music/Blues/Song.bmp");
-}
+    const auto placed = [&] { return QList<int>({f.Photo.Width(), f.Photo.Height(), f.Photo.Left()}); };
+    EXPECT_EQ(placed(), QList<int>({1920, 1920, 772})) << "the square frame: 1545 / 2 rounds to even";
+    EXPECT_TRUE(f.Image8.Visible() && f.Image9.Visible());
 
-TEST_F(SongLoading, PhotosOfTheTwoKnownWidthsStayOthersTakeTheChosenWidthAndAllAre1920High) {
-    Form1& f = form1();
-    const struct {
-        int width, height;  // pixels
-        int photoWidth;     // the chosen width, twips
-        int expectWidth, expectLeft;
-        bool frames;
-    } cases[] = {
-        {231, 67, 1920, 3465, 0, false},   // 3465 twips wide: kept, stretched to 1920 high
-        {128, 300, 3465, 1920, 772, true},  // square frame: 1545 / 2 rounds to even
-        {300, 128, 3465, 3465, 0, false},   // any other width: the chosen one
-        {300, 128, 1920, 1920, 772, true},
-        {100, 100, 3645, 3645, -90, false},
-    };
-    int row = 0;
-    for (const auto& c : cases) {
-        f.PhotoWidth = std::int16_t(c.photoWidth);
-        f.Image8.setVisible(!c.frames);
-        queue({QStringLiteral("P%1").arg(row)});
-        tc.pictures.add(QStringLiteral("/m/P%1.JPG").arg(row), c.width, c.height);
-        EXPECT_TRUE(load(row));
-        EXPECT_EQ(QList<int>({f.Photo.Width(), f.Photo.Height(), f.Photo.Left()}),
-                  QList<int>({c.expectWidth, 1920, c.expectLeft}))
-            << row;
-        EXPECT_EQ(f.Image8.Visible(), c.frames);
-        EXPECT_EQ(f.Image9.Visible(), c.frames);
-        ++row;
-    }
+    f.PhotoWidth = 3645;
+    queue({"Other"});
+    tc.pictures.add("/m/Other.JPG", 300, 128);
+    EXPECT_TRUE(load(1));
+    EXPECT_EQ(placed(), QList<int>({3645, 1920, -90})) << "any other width: the chosen one";
+    EXPECT_FALSE(f.Image8.Visible() || f.Image9.Visible());
 }
 
 TEST_F(SongLoading, TheRunningTimeCountsFromTheSelectedRowRoundingAfterEachSong) {
     Form1& f = form1();
     queue({"A", "B", "C"});
-    for (auto [t, len] : {std::pair{"A", 10.4f}, {"B", 20.5f}, {"C", 3630.6f}})
+    for (auto [t, len] : {std::pair{"B", 20.5f}, {"C", 3630.6f}})
         tc.mp3.addFile(QString("/m/") + t + ".MP3", 100, len);
-    f.GetTotTime();
-    EXPECT_EQ(f.lblTotTime.Caption(), "01:01:01") << "10, then 30.5 -> 30, then 3660.6 -> 3661";
-    M().CurrentSong = 0;
-    f.lstSongs.setListIndex(1);  // the click runs it too
+    f.lstSongs.setListIndex(1);  // the click counts from its row
     EXPECT_EQ(f.lblTotTime.Caption(), "01:00:51") << "20.5 -> 20, then 3650.6 -> 3651";
-    EXPECT_EQ(tc.mp3.openFile(), "/m/B.MP3");
-
     M().CurrentSong = 0;
     f.GetTotTime();
     EXPECT_EQ(tc.mp3.openFile(), "/m/A.MP3") << "left on the current song";

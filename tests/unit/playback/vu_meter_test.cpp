@@ -13,22 +13,17 @@ protected:
         tc.peak.setMaximum(1800);  // LampStep 100
         PlaybackFixture::SetUp();
         queue({"A"});
+        // One-pixel pictures whose colour is the lamp's letter in lamps() below.
         std::uint32_t colour = 1;
         FrmMiniPlayer& mini = program().frmMiniPlayer;
         for (Image* i : {&form1().imgVUGreen, &form1().imgVUAmber, &form1().imgVURed, &form1().imgVUPurple,
                          &mini.imgVUGreen, &mini.imgVUAmber, &mini.imgVURed, &mini.imgVUPurple})
-            i->setPicture(Picture::filled(1, 1, 0xFF000000u + colour++));
+            i->setPicture(Picture::filled(1, 1, colour++));
     }
-    // The lamps as letters: g(reen), a(mber), r(ed), o(ff).
-    template <typename Window>
-    static QString lamps(Window& w) {
+    // The lamps as letters: g(reen), a(mber), r(ed), o(ff); the mini player's in capitals.
+    static QString lamps(auto& window) {
         QString s;
-        for (auto& lamp : w.imgVU)
-            for (auto [image, letter] : {std::pair{&w.imgVUGreen, u'g'},
-                                         {&w.imgVUAmber, u'a'},
-                                         {&w.imgVURed, u'r'},
-                                         {&w.imgVUPurple, u'o'}})
-                if (lamp->picture().sameAs(image->picture())) s += letter;
+        for (auto& lamp : window.imgVU) s += QStringLiteral("?garoGARO").at(lamp->picture().pixel(0, 0));
         return s;
     }
     // The next tick shows `reading`.
@@ -38,23 +33,24 @@ protected:
     }
 };
 
-TEST_F(VuMeter, LampsFollowEachReadingInEighteenEqualSteps) {
+TEST_F(VuMeter, LampsFollowEachReadingInEighteenEqualStepsOnTheWindowThatShows) {
     play();
     for (auto [reading, shown] : {std::pair{1000, "ggggggggggaoooooooo"},  // exactly LampStep * 10
-                                  {999, "ggggggggggooooooooo"},
-                                  {-1500, "ggggggggggaaaaarooo"},  // counts as 1500
-                                  {1800, "ggggggggggaaaaarrrr"},
-                                  {0, "goooooooooooooooooo"},  // lamp 0 is lit all through play
+                                  {-1500, "ggggggggggaaaaarooo"},          // counts as 1500
+                                  {0, "goooooooooooooooooo"},              // lamp 0 is lit all through play
                                   // No positive twin: lights nothing.
                                   {std::numeric_limits<std::int32_t>::min(), "ooooooooooooooooooo"}}) {
         tick(reading);
         EXPECT_EQ(lamps(form1()), shown) << reading;
     }
-    // A pause keeps the meter reading (silence); the end of the stream puts every lamp out.
-    pause();
-    tick(500);
-    EXPECT_EQ(lamps(form1()), "ggggggooooooooooooo");
-    pause();
+    // With the main window hidden the mini player's lamps are written, and the main window's stay.
+    form1().setVisible(false);
+    tick(1100);
+    EXPECT_EQ(lamps(form1()), "ooooooooooooooooooo");
+    EXPECT_EQ(lamps(program().frmMiniPlayer), "GGGGGGGGGGAAOOOOOOO");
+    form1().setVisible(true);
+
+    // The end of the stream puts every lamp out.
     stop();
     EXPECT_EQ(lamps(form1()), "ooooooooooooooooooo");
 
@@ -63,17 +59,6 @@ TEST_F(VuMeter, LampsFollowEachReadingInEighteenEqualSteps) {
     play();
     tick(0);
     EXPECT_EQ(lamps(form1()), "ggggggggggaaaaarrrr");
-}
-
-TEST_F(VuMeter, WithTheMainWindowHiddenTheMiniPlayersLampsAreWritten) {
-    Form1& f = form1();
-    FrmMiniPlayer& mini = program().frmMiniPlayer;
-    play();
-    tick(1800);
-    f.setVisible(false);
-    tick(1100);
-    EXPECT_EQ(lamps(f), "ggggggggggaaaaarrrr") << "the main window's lamps stay as they were";
-    EXPECT_EQ(lamps(mini), "ggggggggggaaooooooo");
 }
 
 }  // namespace

@@ -52,10 +52,6 @@ protected:
     QString current(const char* field) {
         return data.recordset().Fields(QString::fromLatin1(field)).Value().toString();
     }
-    // The i-th dialog shown, as "title: text".
-    QString said(std::size_t i) const {
-        return tc.dialogs.shown().at(i).title + ": " + tc.dialogs.shown().at(i).text;
-    }
 
     // Straight into the library file, behind the data control's back: the first column of the
     // rows the statement gives. A statement that changes the file has the view read again.

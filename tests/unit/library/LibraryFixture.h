@@ -21,14 +21,10 @@ protected:
     // A record as the scanner would store it, for tests that need a library with content.
     void addRecord(const QString& dir, const QString& file, const QString& artist = {},
                    const QString& album = {}) {
-        Recordset& r = data.recordset();
-        r.AddNew();
-        r.Fields(QStringLiteral("Path\\File")).setValue(dir + u'/' + file + QStringLiteral(".MP3"));
-        r.Fields(QStringLiteral("Path")).setValue(dir);
-        r.Fields(QStringLiteral("File")).setValue(file);
-        r.Fields(QStringLiteral("Artist")).setValue(artist);
-        r.Fields(QStringLiteral("Album")).setValue(album);
-        r.Update();
+        sql(QString("INSERT INTO SongData ([Path\\File], Path, File, Artist, Album) "
+                    "VALUES ('%1/%2.MP3', '%1', '%2', '%3', '%4')")
+                .arg(dir, file, artist, album)
+                .toUtf8());
     }
 
     // Four songs in two folders: two by Queen, two on the album Gold, one without an album.

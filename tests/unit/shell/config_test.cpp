@@ -47,9 +47,6 @@ TEST_F(Config, ShortHandEditedAndFailingFiles) {
         // A field that fails ends the load and skips its later steps: the library path stays
         // empty, the design interval (30000) stays, the encoder menu is never set.
         {" 0 \r\n 0 \r\n\r\n 99999 \r\n 0 \r\n", "0|0||0|1||0|30000|00||00:00|00||01"},
-        // So does an interval the timer cannot take.
-        {" 0 \r\n 0 \r\n/db.mdb\r\n 3465 \r\n 0 \r\n/s\r\n 1 \r\n 100000 \r\n 1 \r\n",
-         "0|0|/db.mdb|3465|0|/s|0|30000|00||00:00|00||01"},
     };
     for (const auto& [file, expected] : cases) {
         prog.reset();

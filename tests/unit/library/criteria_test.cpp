@@ -13,7 +13,6 @@ protected:
         LibraryFixture::SetUp();
         addFourSongs();
         form1().imgButon[3].Click();  // by Artist: Abba, Blondie, Queen, Queen
-        tc.dialogs.clear();
     }
     QStringList lines() { return general().List1.rows(); }
     QStringList queue() { return form1().lstSongs.rows(); }

@@ -15,7 +15,6 @@ protected:
         LibraryFixture::SetUp();
         addFourSongs();
         form1().imgButon[1].Click();  // by File, as the first activation leaves it
-        tc.dialogs.clear();
     }
     // The filter label, the count, and the column buttons that stand out: "=" the order's,
     // "*" a filter's.

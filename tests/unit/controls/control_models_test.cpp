@@ -31,13 +31,6 @@ TEST(ListBoxModel, SelectingAnotherRowFiresTheClickAndTheSelectionFollowsItsRow)
     EXPECT_EQ(sorted.NewIndex(), 1);
 }
 
-TEST(PictureModel, CutsAreExact) {
-    std::vector<std::uint32_t> px(4 * 3);
-    for (int i = 0; i < 12; ++i) px[std::size_t(i)] = 0xff000000u | std::uint32_t(i);
-    Picture piece = Picture(4, 3, px).cut(1, 1, 2, 2);
-    EXPECT_EQ(piece.pixel(1, 1), 0xff00000au);
-}
-
 // A value the control cannot take fails, and the control keeps what it had.
 TEST(ControlModels, BadValuesFailAndChangeNothing) {
     ListBox list("lstSongs");

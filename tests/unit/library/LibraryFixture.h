@@ -21,14 +21,10 @@ protected:
     // A record as the scanner would store it, for tests that need a library with content.
     void addRecord(const QString& dir, const QString& file, const QString& artist = {},
                    const QString& album = {}) {
-        Recordset& r = data.recordset();
-        r.AddNew();
-        r.Fields(QStringLiteral("Path\\File")).setValue(dir + u'/' + file + QStringLiteral(".MP3"));
-        r.Fields(QStringLiteral("Path")).setValue(dir);
-        r.Fields(QStringLiteral("File")).setValue(file);
-        r.Fields(QStringLiteral("Artist")).setValue(artist);
-        r.Fields(QStringLiteral("Album")).setValue(album);
-        r.Update();
+        sql(QString("INSERT INTO SongData ([Path\\File], Path, File, Artist, Album) "
+                    "VALUES ('%1/%2.MP3', '%1', '%2', '%3', '%4')")
+                .arg(dir, file, artist, album)
+                .toUtf8());
     }
 
     // Four songs in two folders: two by Queen, two on the album Gold, one without an album.
@@ -51,10 +47,6 @@ protected:
     QString source() const { return data.RecordSource(); }
     QString current(const char* field) {
         return data.recordset().Fields(QString::fromLatin1(field)).Value().toString();
-    }
-    // The i-th dialog shown, as "title: text".
-    QString said(std::size_t i) const {
-        return tc.dialogs.shown().at(i).title + ": " + tc.dialogs.shown().at(i).text;
     }
 
     // Straight into the library file, behind the data control's back: the first column of the

@@ -13,7 +13,6 @@ protected:
         LibraryFixture::SetUp();
         addFourSongs();
         form1().imgButon[3].Click();  // by Artist: Abba, Blondie, Queen, Queen
-        tc.dialogs.clear();
     }
     QStringList lines() { return general().List1.rows(); }
     QStringList queue() { return form1().lstSongs.rows(); }
@@ -51,7 +50,7 @@ TEST_F(Criteria, AutoQueueAppendsTheMatchesInTheGridsOrder) {
     Form1& f = form1();
     tc.dialogs.answer(MsgResult::OK);
     f.cmdAutoSet.Click();
-    EXPECT_EQ(said(0), "Auto-Queue: Auto-Queue is empty");
+    EXPECT_EQ(tc.dialogs.texts(), QStringList({"Auto-Queue is empty"}));
     f.mnuFilterAutoSet.Click();
     EXPECT_EQ(source(), "Select * From SongData Order By [Artist]") << "an empty list filters nothing";
 

@@ -77,7 +77,7 @@ TEST_F(Scanner, WalksSubdirectoriesLastToFirstDepthFirstWithFilesLastAndCounts) 
     for (const char* name : {"A/A2/x.MP3", "B/b1.MP3"}) song(name);
     scan(dir.path(), true);
     EXPECT_EQ(opened(), QStringList({"B/b1.MP3", "A/A2/x.MP3", "A/A1/deep.mp3", "A/a1.MP3", "top.MP3"}));
-    EXPECT_EQ(said(0), "Auto Update: 5 new titles found");
+    EXPECT_EQ(tc.dialogs.texts(), QStringList({"5 new titles found"}));
 
     // A lower-case extension goes from the name all the same; lengths round to the even second
     // on a tie. (Every column of a tagged file is the real scan's test.)
@@ -135,9 +135,7 @@ TEST_F(Scanner, AFilterInForceCountsDuplicatesThatAreNotStored) {
     addRecord(path("d1"), "k", "Keep");
     addRecord(path("d2"), "o", "Other");
     menu(3, "mnuFilter", 0);  // the artist of the first record only
-    ASSERT_EQ(form1().lblRecords.Caption(), "1");
     scan(dir.path(), true);
-    EXPECT_EQ(opened(), QStringList({"d2/o.MP3", "d1/k.MP3", "new.MP3"}));
     EXPECT_EQ(tc.dialogs.texts(), QStringList({"3 new titles found"}));
     EXPECT_EQ(files(), QStringList({"k", "o", "new"}));
     // The grid comes back in its order, without its filter.

@@ -70,7 +70,6 @@ TEST_F(MainSkin, ColoursWithLabelsLenientNumbersAndShortFiles) {
     EXPECT_THROW(load(skin("Negative", &negative)), RuntimeError);
     EXPECT_EQ(colours().first(), "9,9,9");
     EXPECT_TRUE(form1().PicTopPanel.picture().sameAs(before));
-    EXPECT_EQ(form1().MousePointer(), Hourglass) << "left as the failure left it";
 }
 
 TEST_F(MainSkin, BrokenSkinsStopWhereTheyFail) {
@@ -105,7 +104,6 @@ TEST_F(MainSkin, SelectSkinAppliesThePickedOrTheLastDirectory) {
         g.cmdOK.Click();
     });
     f.mnuSelectSkin.Click();
-    EXPECT_EQ(f.PicDatabase.picture().source(), first + "/PanelDatabase.bmp");
 
     tc.pictures.clearCalls();
     tc.loop.post([&] { g.cmdCancel.Click(); });

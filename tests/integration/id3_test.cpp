@@ -43,9 +43,7 @@ QByteArray fakeAudio(int size, unsigned seed = 1) {
 
 using fixtures::id3v1Block;
 
-QByteArray tail(const QByteArray& bytes) {
-    return bytes.right(128);
-}
+QByteArray tail(const QByteArray& bytes) { return bytes.right(128); }
 
 class Id3v1Test : public ::testing::Test {
 protected:
@@ -63,7 +61,7 @@ protected:
     // Runs `id3v2` on the file; what it printed, or nothing when it failed.
     std::optional<QString> id3v2(const QStringList& args) {
         QByteArray out;
-        if (fixtures::runToolCapture(QStringList{"id3v2"} + args + QStringList{path()}, out, 10) != 0) return {};
+        if (fixtures::runTool(QStringList{"id3v2"} + args + QStringList{path()}, 10, &out) != 0) return {};
         return QString::fromLatin1(out);
     }
 

@@ -4,16 +4,10 @@
 // libraries on a read-only medium, and files that are not good databases, which must fail
 // cleanly and stay as they were.
 #include <gtest/gtest.h>
-#include <sched.h>
-#include <sys/mount.h>
-#include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
-#include <functional>
 
 #include "QtPrinters.h"
 #include "engine/data/JetLikePattern.h"
@@ -22,6 +16,7 @@
 #include "fixtures/ErrorNumber.h"
 #include "fixtures/Files.h"
 #include "fixtures/LibraryStatements.h"
+#include "fixtures/ReadOnlyFolder.h"
 #include "fixtures/ToolRunner.h"
 
 namespace sonarium {
@@ -279,37 +274,6 @@ TEST_F(DataControlTest, TransactionsCommitTogetherAndRollBack) {
     db.CommitTrans();
 }
 
-// What `look` reports with `folder` seen through a read-only mount, as on a CD or a locked
-// card, where not even root can write: in a child process with mount and user namespaces of
-// its own. Without them, a user other than root gets a folder without write permission
-// instead; root gets "no read-only folder".
-QString throughReadOnlyFolder(const QString& folder, const std::function<QString()>& look) {
-    int pipeEnds[2];
-    if (pipe(pipeEnds) != 0) return {};
-    const pid_t child = fork();
-    if (child == 0) {
-        alarm(30);  // a lock held by another thread at the fork must not hang the test
-        const QByteArray at = QFile::encodeName(folder);
-        const bool mounted =
-            (unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0 || unshare(CLONE_NEWNS) == 0) &&
-            mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
-            mount(at.constData(), at.constData(), nullptr, MS_BIND, nullptr) == 0 &&
-            mount(nullptr, at.constData(), nullptr, MS_BIND | MS_REMOUNT | MS_RDONLY, nullptr) == 0;
-        const bool locked = mounted || (geteuid() != 0 && chmod(at.constData(), 0555) == 0);
-        const QByteArray report = locked ? look().toUtf8() : QByteArrayLiteral("no read-only folder");
-        if (!mounted && locked) chmod(at.constData(), 0755);
-        const ssize_t written = write(pipeEnds[1], report.constData(), size_t(report.size()));
-        _exit(written == report.size() ? 0 : 1);
-    }
-    close(pipeEnds[1]);
-    QByteArray report;
-    char buffer[4096];
-    for (ssize_t n; (n = read(pipeEnds[0], buffer, sizeof buffer)) > 0;) report.append(buffer, n);
-    close(pipeEnds[0]);
-    if (child > 0) waitpid(child, nullptr, 0);
-    return QString::fromUtf8(report);
-}
-
 TEST_F(DataControlTest, LibrariesOnAReadOnlyMediumOpenForReading) {
     const QString live = makeLibrary("live.mdb");
     open(live);
@@ -326,7 +290,7 @@ TEST_F(DataControlTest, LibrariesOnAReadOnlyMediumOpenForReading) {
     ASSERT_TRUE(QFile::copy(live, path("crashed.mdb")) &&
                 QFile::copy(live + "-wal", path("crashed.mdb-wal")));
 
-    const QString report = throughReadOnlyFolder(dir.path(), [&] {
+    const QString report = fixtures::throughReadOnlyFolder(dir.path(), [&] {
         QString r;
         for (const char* name : {"logged", "crashed"}) {
             SqliteDataControl reader;

@@ -1,7 +1,7 @@
 // The drives the drive list offers, from a mount table in the kernel's format.
 #include <gtest/gtest.h>
 
-#include <QTemporaryDir>
+#include <QStringList>
 
 #include "engine/LinuxVolumes.h"
 

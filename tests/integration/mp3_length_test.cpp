@@ -84,6 +84,9 @@ QByteArray silentStartVbr() {
     return out;
 }
 
+// Bytes that are no frames between the last frame and the ID3v1 tag.
+QByteArray junkBeforeTag() { return constantRate(128, 600) + QByteArray(2000, '\0') + fixtureTag(); }
+
 QByteArray withId3v2(const QByteArray& audio) {
     const int size = 5000;  // past the first read, so the audio is looked for behind it
     QByteArray tag("ID3\x03\x00\x00", 6);
@@ -129,33 +132,18 @@ struct LengthCase {
     Mp3Recipe recipe;  // encoded with LAME unless made by hand
     QByteArray (*handMade)() = nullptr;
     bool id3v2 = false;  // an ID3v2 tag in front
-    // The tool's samples byte for byte and a notification from frame 0 on; not so for MPEG-2
-    // VBR, where the tool rounds a few samples otherwise and the trimming takes frame 0 whole.
-    bool exact = true;
 };
 
 void PrintTo(const LengthCase& c, std::ostream* os) { *os << c.name; }
 
 using M = LengthSurvey::Method;
 const LengthCase kCases[] = {
-    {"cbr192_48k_stereo_info",
-     M::XingFrames,
-     true,
-     {.rate = 48000, .joint = false, .kbps = 192, .info = true}},
+    {"cbr192_48k_info", M::XingFrames, true, {.rate = 48000, .joint = false, .kbps = 192, .info = true}},
     {"cbr256_id3v2_id3v1", M::ConstantRate, false, {.kbps = 256, .seconds = 4, .id3v1 = true}, nullptr, true},
     {"cbr32_22k_mono", M::ConstantRate, false, {.rate = 22050, .channels = 1, .kbps = 32, .seconds = 8}},
     {"vbr_xing", M::XingFrames, true, {.vbr = true, .seconds = 4}},
-    {"vbr_48k_mono_xing_id3v1",
-     M::XingFrames,
-     true,
-     {.rate = 48000, .channels = 1, .vbr = true, .id3v1 = true}},
-    {"vbr_22k_mono_xing",
-     M::XingFrames,
-     true,
-     {.rate = 22050, .channels = 1, .vbr = true},
-     nullptr,
-     false,
-     false},
+    {"vbr_48k_mono_id3v1", M::XingFrames, true, {.rate = 48000, .channels = 1, .vbr = true, .id3v1 = true}},
+    {"vbr_22k_mono", M::XingFrames, true, {.rate = 22050, .channels = 1, .vbr = true}},
     {"free_format", M::Scan, false, {.kbps = 200, .freeFormat = true, .seconds = 4}},
     {"vbri", M::VbriFrames, false, {}, vbriFile},
     {"xing_without_frames", M::Scan, false, {}, [] { return xingFile(2); }},
@@ -163,11 +151,7 @@ const LengthCase kCases[] = {
     {"silent_start_vbr", M::Scan, false, {}, silentStartVbr},
     // Never padded: the mean frame size would count these 2,000 frames 5 short.
     {"cbr_unpadded", M::ConstantRate, false, {}, [] { return constantRate(128, 2000, false); }},
-    {"cbr_junk_before_tag",
-     M::ConstantRate,
-     false,
-     {},
-     [] { return constantRate(128, 600) + QByteArray(2000, '\0') + fixtureTag(); }},
+    {"cbr_junk_before_tag", M::ConstantRate, false, {}, junkBeforeTag},
 };
 
 class PlayerLengthTest : public ::testing::TestWithParam<LengthCase> {
@@ -232,7 +216,9 @@ TEST_P(PlayerLengthTest, SurveyPlayerAndDecodingAgreeWithTheTool) {
     h.finish();
     EXPECT_EQ(h.events.last(), "end");
     EXPECT_EQ(h.ends, 1);
-    if (!c.exact) {
+    // The tool's samples byte for byte and a notification from frame 0 on; not so for MPEG-2
+    // VBR, where the tool rounds a few samples otherwise and the trimming takes frame 0 whole.
+    if (c.recipe.vbr && c.recipe.rate < 32000) {
         EXPECT_EQ(readWav(ours).data.size(), tool.data.size());
         return;
     }

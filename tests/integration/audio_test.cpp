@@ -1,16 +1,10 @@
 // The output path on generated signals: the tone shelves' response measured through the real
-// processor at two rates, the limiter at full boost, the volume curve, the per-tick peak, the
-// speed stage's tempo and its ends, the null sink's real-time pace, the choice of sink, and the
-// mixer and peak meter components. The fall-back of a device lost mid-song is played through the
-// player (player_test.cpp).
+// processor at two rates, the limiter at full boost, the volume curve, the per-tick peak and the
+// speed stage's tempo and its ends. The null sink's pace and the fall-back of a device lost
+// mid-song are played through the player (player_test.cpp).
 #include <gtest/gtest.h>
-#include <unistd.h>
 
-#include <QByteArray>
-#include <QTemporaryFile>
-#include <QtGlobal>
 #include <algorithm>
-#include <chrono>
 #include <cmath>
 #include <cstring>
 #include <numbers>
@@ -18,21 +12,11 @@
 #include <thread>
 #include <vector>
 
-#include "QtPrinters.h"
-#include "engine/EngineMixer.h"
-#include "engine/EnginePeakMeter.h"
-#include "engine/audio/AlsaSink.h"
-#include "engine/audio/FallbackSink.h"
-#include "engine/audio/NullSink.h"
-#include "engine/audio/PulseSink.h"
 #include "engine/audio/SoundProcessor.h"
 #include "engine/player/SpeedStage.h"
 
 namespace sonarium {
 namespace {
-
-using std::chrono::milliseconds;
-using Clock = std::chrono::steady_clock;
 
 constexpr int kBlock = 441;  // frames per process() call, as a decoder hands them over
 
@@ -45,6 +29,26 @@ std::vector<float> sine(double freq, double amplitude, int rate, double seconds)
             static_cast<float>(amplitude * std::sin(2 * std::numbers::pi * freq * i / rate));
     return out;
 }
+
+// Full-scale stereo noise.
+std::vector<float> noise(unsigned seed, int frames) {
+    std::mt19937 random(seed);
+    std::uniform_real_distribution<float> uniform(-1.0f, 1.0f);
+    std::vector<float> s(frames * 2UL);
+    for (float& x : s) x = uniform(random);
+    return s;
+}
+
+// The processor on tone settings and a peak level of its own.
+struct Chain {
+    explicit Chain(int bass = 50, int treble = 50) {
+        tone.bass = bass;
+        tone.treble = treble;
+    }
+    ToneSettings tone;
+    PeakLevel peak;
+    SoundProcessor p{tone, peak};
+};
 
 void processInBlocks(SoundProcessor& p, std::vector<float>& samples, int rate) {
     const int frames = static_cast<int>(samples.size() / 2);
@@ -62,13 +66,9 @@ double tailRms(const std::vector<float>& s, int frames) {
 // Gain in dB of a tone setting at one frequency: 0.4 s of sine, measured over its last 0.2 s,
 // which holds whole periods of every frequency used here.
 double toneGainDb(int rate, int bass, int treble, double freq) {
-    ToneSettings tone;
-    tone.bass = bass;
-    tone.treble = treble;
-    PeakLevel peak;
-    SoundProcessor p(tone, peak);
+    Chain c(bass, treble);
     auto s = sine(freq, 0.1, rate, 0.4);
-    processInBlocks(p, s, rate);
+    processInBlocks(c.p, s, rate);
     return 20 * std::log10(tailRms(s, rate / 5) / (0.1 / std::sqrt(2.0)));
 }
 
@@ -78,8 +78,8 @@ TEST(ToneShelves, CutAndBoostAboutTwelveDecibelsEachOnItsOwnSideAndFlatIsBitExac
         double freq, db;
     };
     const Case cases[] = {
-        {0, 50, 50, -12},    {100, 50, 50, 12},   {50, 0, 10000, -12}, {50, 100, 10000, 12},
-        {0, 0, 1000, 0},     {100, 100, 1000, 0}, {100, 50, 10000, 0}, {50, 100, 50, 0},
+        {0, 50, 50, -12}, {100, 50, 50, 12},   {50, 0, 10000, -12}, {50, 100, 10000, 12},
+        {0, 0, 1000, 0},  {100, 100, 1000, 0}, {100, 50, 10000, 0}, {50, 100, 50, 0},
     };
     for (int rate : {44100, 48000})
         for (const Case& c : cases)
@@ -90,23 +90,15 @@ TEST(ToneShelves, CutAndBoostAboutTwelveDecibelsEachOnItsOwnSideAndFlatIsBitExac
 
     // Flat passes noise untouched, full scale included, also after a quiet passage through a
     // boost (nothing near full scale, so the limiter stays out of it).
-    std::mt19937 random(7);
-    std::uniform_real_distribution<float> noise(-1.0f, 1.0f);
-    std::vector<float> input(4410 * 2UL);
-    for (float& x : input) x = noise(random);
+    std::vector<float> input = noise(7, 4410);
     input[10] = 1.0f;
     input[11] = -1.0f;
-    ToneSettings tone;
-    tone.bass = 0;
-    tone.treble = 100;
-    PeakLevel peak;
-    SoundProcessor p(tone, peak);
+    Chain c(0, 100);
     auto quiet = sine(1000, 0.05, 44100, 0.05);
-    processInBlocks(p, quiet, 44100);
-    tone.treble = 50;
-    tone.bass = 50;
+    processInBlocks(c.p, quiet, 44100);
+    c.tone.treble = c.tone.bass = 50;
     auto out = input;
-    processInBlocks(p, out, 44100);
+    processInBlocks(c.p, out, 44100);
     EXPECT_EQ(0, std::memcmp(out.data(), input.data(), input.size() * sizeof(float)));
 }
 
@@ -125,13 +117,9 @@ double distortion(const std::vector<float>& s, double freq, int rate, int frames
 }
 
 TEST(Limiter, FullBoostOfFullScaleStaysInRangeWithoutFlattenedTops) {
-    ToneSettings tone;
-    tone.bass = 100;
-    tone.treble = 100;
-    PeakLevel peak;
-    SoundProcessor p(tone, peak);
+    Chain c(100, 100);
     auto wave = sine(50, 1.0, 44100, 0.4);
-    processInBlocks(p, wave, 44100);
+    processInBlocks(c.p, wave, 44100);
     const auto [lowest, highest] = std::minmax_element(wave.begin(), wave.end());
     EXPECT_GE(*lowest, -1.0f);
     EXPECT_LE(*highest, 1.0f);
@@ -140,41 +128,35 @@ TEST(Limiter, FullBoostOfFullScaleStaysInRangeWithoutFlattenedTops) {
     EXPECT_LT(distortion(wave, 50, 44100, 44100 / 5), 0.001);
 
     // Full-scale noise at the other rate: every transient at once.
-    std::mt19937 random(3);
-    std::uniform_real_distribution<float> noise(-1.0f, 1.0f);
-    std::vector<float> s(48000 * 2UL);
-    for (float& x : s) x = noise(random);
-    processInBlocks(p, s, 48000);
+    auto s = noise(3, 48000);
+    processInBlocks(c.p, s, 48000);
     for (float x : s) ASSERT_TRUE(x >= -1.0f && x <= 1.0f) << x;
 }
 
 TEST(Volume, SquareLawPerSideClampedAndMonoTakesTheLeft) {
-    ToneSettings tone;
-    PeakLevel peak;
-    SoundProcessor p(tone, peak);
+    Chain c;
     const auto run = [&](int left, int right) {
-        p.setVolume(left, right);
+        c.p.setVolume(left, right);
         float frame[2] = {0.5f, 0.5f};
-        p.process(frame, 1, 2, 44100);
+        c.p.process(frame, 1, 2, 44100);
         return std::pair{frame[0], frame[1]};
     };
     EXPECT_EQ(run(50, 100), std::pair(0.125f, 0.5f));
     EXPECT_EQ(run(150, -5), std::pair(0.5f, 0.0f));
-    p.setVolume(50, 0);
+    c.p.setVolume(50, 0);
     float mono[1] = {0.5f};
-    p.process(mono, 1, 1, 44100);
+    c.p.process(mono, 1, 1, 44100);
     EXPECT_EQ(mono[0], 0.125f);
 }
 
 TEST(Peak, EachReadingIsTheMaximumSinceTheLastOneInFullScaleUnits) {
-    ToneSettings tone;
-    PeakLevel peak;
-    SoundProcessor p(tone, peak);
+    Chain c;
+    PeakLevel& peak = c.peak;
     float a[4] = {0.1f, -0.5f, 0.25f, 0.0f}, b[4] = {0.25f, 0.0f, 0.0f, -0.125f};
-    p.process(a, 2, 2, 44100);
-    p.process(b, 2, 2, 44100);
+    c.p.process(a, 2, 2, 44100);
+    c.p.process(b, 2, 2, 44100);
     EXPECT_EQ(peak.takeReading(), 16384);  // the negative sample of the first block
-    p.process(b, 2, 2, 44100);
+    c.p.process(b, 2, 2, 44100);
     EXPECT_EQ(peak.takeReading(), 8192);  // the reading started again
     peak.offer(3.0f);
     EXPECT_EQ(peak.takeReading(), PeakLevel::Maximum);
@@ -212,121 +194,6 @@ TEST(SpeedStage, TempoFollowsTheSpeedAndHoldsAtTheEndsWhateverTheValue) {
     // Past the ends (the buttons have no limits): the extreme tempo, never normal speed.
     for (int speed : {45, -32768}) EXPECT_TRUE(atSpeed(speed) == fastest) << speed;
     for (int speed : {205, 32767}) EXPECT_TRUE(atSpeed(speed) == slowest) << speed;
-}
-
-TEST(NullSink, TakesSamplesAtRealTimePaceAndResetDropsWhatIsUnplayed) {
-    const std::vector<float> tenMs(480 * 2UL, 0.0f);
-    NullSink sink;
-    ASSERT_TRUE(sink.open({48000, 2}));
-    auto start = Clock::now();
-    for (int i = 0; i < 10; ++i) sink.write(tenMs.data(), 480);
-    sink.drain();
-    auto took = Clock::now() - start;
-    EXPECT_GE(took, milliseconds(90));
-    EXPECT_LT(took, milliseconds(2000));
-
-    // A whole second fits the buffer, so nothing waits; after reset there is nothing to drain.
-    NullSink roomy(milliseconds(2000));
-    ASSERT_TRUE(roomy.open({48000, 2}));
-    start = Clock::now();
-    for (int i = 0; i < 100; ++i) roomy.write(tenMs.data(), 480);
-    roomy.reset();
-    roomy.drain();
-    EXPECT_LT(Clock::now() - start, milliseconds(500));
-}
-
-// Runs fn with stderr going to a temporary file, and gives back what was written there.
-template <typename Fn>
-QByteArray stderrOf(Fn fn) {
-    QTemporaryFile file;
-    EXPECT_TRUE(file.open());
-    std::fflush(stderr);
-    const int saved = dup(STDERR_FILENO);
-    dup2(file.handle(), STDERR_FILENO);
-    fn();
-    std::fflush(stderr);
-    dup2(saved, STDERR_FILENO);
-    ::close(saved);
-    file.seek(0);
-    return file.readAll();
-}
-
-// The device a chosen sink plays on, or null for the silent output.
-AudioDevice* deviceOf(AudioSink* sink) {
-    auto* fallback = dynamic_cast<FallbackSink*>(sink);
-    return fallback ? &fallback->device() : nullptr;
-}
-
-TEST(SinkChoice, ForcedByTheEnvironmentElseOneThatOpens) {
-    const QByteArray saved = qgetenv("SONARIUM_AUDIO");
-    const bool wasSet = qEnvironmentVariableIsSet("SONARIUM_AUDIO");
-    const auto chosen = [](const char* value) {
-        value ? qputenv("SONARIUM_AUDIO", value) : qunsetenv("SONARIUM_AUDIO");
-        return createAudioSink();
-    };
-    EXPECT_NE(dynamic_cast<NullSink*>(chosen("null").get()), nullptr);
-    EXPECT_NE(dynamic_cast<PulseSink*>(deviceOf(chosen("pulse").get())), nullptr);
-    EXPECT_NE(dynamic_cast<AlsaSink*>(deviceOf(chosen("alsa").get())), nullptr);
-
-    // Whatever this machine has, the automatic choice is a sink that opens.
-    auto automatic = chosen(nullptr);
-    EXPECT_TRUE(automatic->open({44100, 2}));
-    automatic->close();
-
-    // A device sink on a machine without one fails fast and says nothing; with one, it opens.
-    for (const char* forced : {"pulse", "alsa"}) {
-        SCOPED_TRACE(forced);
-        auto sink = chosen(forced);
-        const auto start = Clock::now();
-        const QByteArray noise = stderrOf([&] {
-            if (sink->open({44100, 2})) sink->open({48000, 1});  // another format reopens
-            sink->close();
-        });
-        EXPECT_LT(Clock::now() - start, milliseconds(2000));
-        EXPECT_EQ(noise, QByteArray());
-    }
-    wasSet ? qputenv("SONARIUM_AUDIO", saved) : qunsetenv("SONARIUM_AUDIO");
-}
-
-TEST(EngineMixer, ReportsItsControlsInOrderAndSetsTheSharedTone) {
-    ToneSettings tone;
-    EngineMixer mixer(tone);
-    QStringList names;
-    std::vector<std::pair<std::int32_t, std::int32_t>> ids;
-    mixer.onControlFound = [&](const QString& name, std::int32_t id0, std::int32_t id1) {
-        names << name;
-        ids.emplace_back(id0, id1);
-    };
-    mixer.OpenMixer();
-    ASSERT_EQ(names, QStringList({"Treble", "Bass", "VUMeterWaveOut"}));
-    const auto set = [&](int which, std::int32_t value) {
-        return mixer.SetControlValue(ids[which].first, ids[which].second, 0, value);
-    };
-    EXPECT_TRUE(set(0, 80));
-    EXPECT_TRUE(set(1, 130));
-    EXPECT_EQ(tone.bass, 100);
-    EXPECT_TRUE(set(1, -5));
-    EXPECT_FALSE(set(2, 70));  // the meter has no value to set
-    EXPECT_FALSE(mixer.SetControlValue(ids[0].first, ids[1].second, 0, 70));
-    EXPECT_EQ(tone.treble, 80);
-    EXPECT_EQ(tone.bass, 0);
-}
-
-TEST(EnginePeakMeter, ReadsOnlyBetweenPrepareAndFree) {
-    PeakLevel level;
-    EnginePeakMeter meter(level);
-    EXPECT_EQ(meter.OpenMixer(), 0);
-    EXPECT_TRUE(meter.FindPeakControl());
-    EXPECT_EQ(meter.Maximum(), 32768);
-    level.offer(0.5f);
-    EXPECT_EQ(meter.Read(), std::nullopt);
-    ASSERT_TRUE(meter.Prepare());
-    EXPECT_EQ(meter.Read(), 0) << "what played before the meter was prepared is not this tick";
-    level.offer(0.25f);
-    EXPECT_EQ(meter.Read(), 8192);
-    meter.Free();
-    level.offer(0.5f);
-    EXPECT_EQ(meter.Read(), std::nullopt);
 }
 
 }  // namespace

@@ -1,19 +1,13 @@
 // The library's data control on real SQLite files made here: the translation of the statements
 // the library builds, the dialect's Like, the record set's counting, moving, editing and
 // finding, the library made by its own Create statements and read back by the sqlite3 tool,
-// two copies of the program on one library, libraries on a read-only medium, and files that
-// are not good databases, which must fail cleanly and stay as they were.
+// libraries on a read-only medium, and files that are not good databases, which must fail
+// cleanly and stay as they were.
 #include <gtest/gtest.h>
-#include <sched.h>
-#include <sys/mount.h>
-#include <sys/stat.h>
-#include <sys/wait.h>
-#include <unistd.h>
 
 #include <QFile>
 #include <QFileInfo>
 #include <QTemporaryDir>
-#include <functional>
 
 #include "QtPrinters.h"
 #include "engine/data/JetLikePattern.h"
@@ -22,6 +16,7 @@
 #include "fixtures/ErrorNumber.h"
 #include "fixtures/Files.h"
 #include "fixtures/LibraryStatements.h"
+#include "fixtures/ReadOnlyFolder.h"
 #include "fixtures/ToolRunner.h"
 
 namespace sonarium {
@@ -32,7 +27,7 @@ using fixtures::libraryStatements;
 
 QString sqliteTool(const QString& file, const QString& query) {
     QByteArray out;
-    if (fixtures::runToolCapture({"sqlite3", file, query}, out) != 0) return QStringLiteral("<failed>");
+    if (fixtures::runTool({"sqlite3", file, query}, 30, &out) != 0) return QStringLiteral("<failed>");
     return QString::fromUtf8(out).trimmed();
 }
 
@@ -101,7 +96,8 @@ TEST(JetTranslation, TextOutsideTheDialectFailsWithItsOwnNumber) {
     };
     for (const Bad& b : bad) {
         const bool select = b.jet.startsWith("Select");
-        const int n = errorOf([&] { select ? (void)translateRecordSource(b.jet) : (void)translateStatement(b.jet); });
+        const int n =
+            errorOf([&] { select ? (void)translateRecordSource(b.jet) : (void)translateStatement(b.jet); });
         EXPECT_EQ(n, b.number) << b.jet.toStdString();
     }
     // Two minus signs stay two operators, never a comment that hides the rest.
@@ -124,7 +120,7 @@ TEST(JetLike, WildcardsListsCaseAndAccents) {
         {"x[]y", "xy", nullptr},
         {"[-a]", "-", nullptr},
         {"É*", "école", "emile"},  // case folds, accents stay
-        {"1_%", "1_%", "1ab"},      // SQL's wildcards are plain characters
+        {"1_%", "1_%", "1ab"},     // SQL's wildcards are plain characters
         {"", "", "a"},
         {"*a*b*c", "aXbXbXc", "aXbXbXd"},
     };
@@ -152,7 +148,8 @@ TEST_F(DataControlTest, LikeFiltersRowsTheDialectsWay) {
         {"[Artist] Like \"*O'B*\"", {"O'Brien"}},
         {"[Album] Like \"\"", {}},  // nulls match nothing
     };
-    for (const auto& [filter, artists] : filters) EXPECT_EQ(artistsWhere(filter), artists) << filter.toStdString();
+    for (const auto& [filter, artists] : filters)
+        EXPECT_EQ(artistsWhere(filter), artists) << filter.toStdString();
     data.setRecordSource("Select * From SongData Where [Artist] Like \"Say \"Hi\"\" ");
     EXPECT_EQ(errorOf([&] { data.Refresh(); }), 3075);
     data.setRecordSource("Select * From SongData Where [Artist] Like \"[x\"");
@@ -275,80 +272,6 @@ TEST_F(DataControlTest, TransactionsCommitTogetherAndRollBack) {
     EXPECT_NE(errorOf([&] { db.CommitTrans(); }), 0) << "no transaction is open";
     db.BeginTrans();  // and none was left open by the failed commit
     db.CommitTrans();
-    // The log left behind on close is the two copies' test's.
-}
-
-// A second copy of the program on the same library, here a second control in this process:
-// SQLite's locks are the same between connections as between processes.
-TEST_F(DataControlTest, TwoCopiesOnOneLibraryWaitForEachOtherAndLoseNothing) {
-    const QString file = makeLibrary();
-    open(file);
-    add("/m/first.mp3", "First");
-    SqliteDataControl other;
-    other.setDatabaseName(file);
-    other.setRecordSource("SongData");
-    other.Refresh();
-    EXPECT_EQ(other.recordset().Fields("Artist").Value().toString(), "First");
-
-    // A scan here while the other copy has a record in view: its reading holds no lock.
-    Database& db = data.database();
-    db.BeginTrans();
-    for (int i = 0; i < 50; ++i) add(QString("/m/%1.mp3").arg(i), "Scan");
-    db.CommitTrans();
-    db.BeginTrans();
-    add("/m/pending.mp3", "Pending");
-
-    // While that transaction is open the other copy reads what was committed, and its write
-    // waits a bounded time and then fails with a clear error, its edit still pending.
-    other.Refresh();
-    Recordset& rs = other.recordset();
-    rs.MoveLast();
-    EXPECT_EQ(rs.RecordCount(), 51);
-    rs.AddNew();
-    rs.Fields("Path\\File").setValue("/m/other.mp3");
-    EXPECT_EQ(errorOf([&] { rs.Update(); }), 3260);
-    db.CommitTrans();
-    rs.Update();
-
-    // Whichever closes last, here the one that wrote only outside the scan, takes the log away.
-    data.database().Close();
-    EXPECT_TRUE(QFile::exists(file + "-wal"));
-    other.database().Close();
-    EXPECT_FALSE(QFile::exists(file + "-wal") || QFile::exists(file + "-shm"));
-    EXPECT_EQ(sqliteTool(file, "pragma journal_mode"), "delete");
-    EXPECT_EQ(sqliteTool(file, "pragma integrity_check"), "ok");
-    EXPECT_EQ(sqliteTool(file, "select count(*) from SongData"), "53");
-}
-
-// What `look` reports with `folder` seen through a read-only mount, as on a CD or a locked
-// card, where not even root can write: in a child process with mount and user namespaces of
-// its own. Without them, a user other than root gets a folder without write permission
-// instead; root gets "no read-only folder".
-QString throughReadOnlyFolder(const QString& folder, const std::function<QString()>& look) {
-    int pipeEnds[2];
-    if (pipe(pipeEnds) != 0) return {};
-    const pid_t child = fork();
-    if (child == 0) {
-        alarm(30);  // a lock held by another thread at the fork must not hang the test
-        const QByteArray at = QFile::encodeName(folder);
-        const bool mounted =
-            (unshare(CLONE_NEWUSER | CLONE_NEWNS) == 0 || unshare(CLONE_NEWNS) == 0) &&
-            mount(nullptr, "/", nullptr, MS_REC | MS_PRIVATE, nullptr) == 0 &&
-            mount(at.constData(), at.constData(), nullptr, MS_BIND, nullptr) == 0 &&
-            mount(nullptr, at.constData(), nullptr, MS_BIND | MS_REMOUNT | MS_RDONLY, nullptr) == 0;
-        const bool locked = mounted || (geteuid() != 0 && chmod(at.constData(), 0555) == 0);
-        const QByteArray report = locked ? look().toUtf8() : QByteArrayLiteral("no read-only folder");
-        if (!mounted && locked) chmod(at.constData(), 0755);
-        const ssize_t written = write(pipeEnds[1], report.constData(), size_t(report.size()));
-        _exit(written == report.size() ? 0 : 1);
-    }
-    close(pipeEnds[1]);
-    QByteArray report;
-    char buffer[4096];
-    for (ssize_t n; (n = read(pipeEnds[0], buffer, sizeof buffer)) > 0;) report.append(buffer, n);
-    close(pipeEnds[0]);
-    if (child > 0) waitpid(child, nullptr, 0);
-    return QString::fromUtf8(report);
 }
 
 TEST_F(DataControlTest, LibrariesOnAReadOnlyMediumOpenForReading) {
@@ -356,23 +279,20 @@ TEST_F(DataControlTest, LibrariesOnAReadOnlyMediumOpenForReading) {
     open(live);
     add("/m/1.mp3", "One");
     add("/m/2.mp3", "Two");
-    ASSERT_TRUE(QFile::copy(live, path("clean.mdb")) && QFile::copy(live, path("logged.mdb")));
     // Left on the write-ahead log with no log beside it, as a copy closing while another had
     // it open leaves it, or a file copied alone.
+    ASSERT_TRUE(QFile::copy(live, path("logged.mdb")));
     EXPECT_EQ(sqliteTool(path("logged.mdb"), "pragma journal_mode=wal"), "wal");
-    // What a crash leaves: the last commit only in the log, with and without the log's index.
+    // What a crash leaves: the last commit only in the log, and no index of the log.
     data.database().BeginTrans();
     add("/m/3.mp3", "Three");
     data.database().CommitTrans();
-    for (const QString name : {"crashed.mdb", "unindexed.mdb"})
-        ASSERT_TRUE(QFile::copy(live, path(name)) && QFile::copy(live + "-wal", path(name) + "-wal"));
-    ASSERT_TRUE(QFile::copy(live + "-shm", path("crashed.mdb-shm")));
-    data.database().Close();
-    ASSERT_TRUE(QFile::remove(live));
+    ASSERT_TRUE(QFile::copy(live, path("crashed.mdb")) &&
+                QFile::copy(live + "-wal", path("crashed.mdb-wal")));
 
-    const QString report = throughReadOnlyFolder(dir.path(), [&] {
+    const QString report = fixtures::throughReadOnlyFolder(dir.path(), [&] {
         QString r;
-        for (const char* name : {"clean", "logged", "crashed", "unindexed"}) {
+        for (const char* name : {"logged", "crashed"}) {
             SqliteDataControl reader;
             reader.setDatabaseName(path(QString(name) + ".mdb"));
             reader.setRecordSource("SongData");
@@ -391,7 +311,7 @@ TEST_F(DataControlTest, LibrariesOnAReadOnlyMediumOpenForReading) {
     if (report == "no read-only folder")
         GTEST_SKIP() << "running as root where no read-only mount can be made";
     // A log that can't be read is an error, not a library without its last commits.
-    EXPECT_EQ(report, "clean 0 2 3027\nlogged 0 2 3027\ncrashed 0 3 3027\nunindexed 3051\n");
+    EXPECT_EQ(report, "logged 0 2 3027\ncrashed 3051\n");
 }
 
 TEST_F(DataControlTest, FindFirstSearchesTheViewFromItsTop) {
@@ -426,7 +346,8 @@ TEST_F(DataControlTest, NewLibraryKeepsItsRulesAndTheToolReadsIt) {
     add("/music/Song.mp3", "Ärzte");
     EXPECT_EQ(sqliteTool(file, "select Artist from SongData"), "Ärzte");
     // The key and width rules are the file's own: they hold for Execute and for the tool too.
-    EXPECT_EQ(sqliteTool(file, "insert into SongData(\"Path\\File\", Year) values('/y', '12345')"), "<failed>");
+    EXPECT_EQ(sqliteTool(file, "insert into SongData(\"Path\\File\", Year) values('/y', '12345')"),
+              "<failed>");
     EXPECT_EQ(errorOf([&] {
                   data.database().Execute("Insert Into SongData ([Path\\File], Year) Values ('/y', 12345)");
               }),

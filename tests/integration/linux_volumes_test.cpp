@@ -1,6 +1,7 @@
 // The drives the drive list offers, from a mount table in the kernel's format.
-#include <QTemporaryDir>
 #include <gtest/gtest.h>
+
+#include <QStringList>
 
 #include "engine/LinuxVolumes.h"
 

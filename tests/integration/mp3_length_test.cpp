@@ -65,13 +65,16 @@ QByteArray headerFrame(const QByteArray& text) {
 QByteArray vbriFile() {
     QByteArray rest;
     for (int k = 0; k < 300; ++k) rest += silentFrame(k % 3 ? 128 : 192, false);
-    return headerFrame("VBRI" + QByteArray("\0\1\0\0\0\x50", 6) + bigEndian(rest.size()) + bigEndian(300)) + rest;
+    return headerFrame("VBRI" + QByteArray("\0\1\0\0\0\x50", 6) + bigEndian(rest.size()) + bigEndian(300)) +
+           rest;
 }
 
-// An Xing header with the stream's bytes but no frame count (flags 2).
-QByteArray xingWithoutFrames() {
+// An Xing header over 300 frames with one field: the frame count (flags 1), with no LAME
+// extension, so the decoder trims only its own delay; or the stream's bytes but no frame count
+// (flags 2).
+QByteArray xingFile(quint32 flags) {
     const QByteArray rest = constantRate(128, 300);
-    return headerFrame("Xing" + bigEndian(2) + bigEndian(rest.size())) + rest;
+    return headerFrame("Xing" + bigEndian(flags) + bigEndian(flags == 1 ? 300 : rest.size())) + rest;
 }
 
 // A VBR file without a header that opens with a long silence at the lowest rate.
@@ -81,6 +84,9 @@ QByteArray silentStartVbr() {
     return out;
 }
 
+// Bytes that are no frames between the last frame and the ID3v1 tag.
+QByteArray junkBeforeTag() { return constantRate(128, 600) + QByteArray(2000, '\0') + fixtureTag(); }
+
 QByteArray withId3v2(const QByteArray& audio) {
     const int size = 5000;  // past the first read, so the audio is looked for behind it
     QByteArray tag("ID3\x03\x00\x00", 6);
@@ -88,13 +94,7 @@ QByteArray withId3v2(const QByteArray& audio) {
     return tag + QByteArray(size, '\0') + audio;
 }
 
-// An Xing header counting frames, with no LAME extension: the decoder trims only its own delay.
-QByteArray xingWithoutLame() {
-    const QByteArray rest = constantRate(128, 300);
-    return headerFrame("Xing" + bigEndian(1) + bigEndian(300)) + rest;
-}
-
-// --- What libmpg123 reports after opening a file as the player sets it up ---
+// --- What libmpg123 reports after opening a file with the player's gapless trimming ---
 
 struct LibraryView {
     bool opened = false;
@@ -109,11 +109,6 @@ LibraryView libraryView(const QString& path) {
     mpg123_init();
     mpg123_handle* m = mpg123_new(nullptr, nullptr);
     mpg123_param(m, MPG123_ADD_FLAGS, MPG123_GAPLESS | MPG123_QUIET, 0);
-    mpg123_format_none(m);
-    const long* rates = nullptr;
-    size_t count = 0;
-    mpg123_rates(&rates, &count);
-    for (size_t i = 0; i < count; ++i) mpg123_format(m, rates[i], MPG123_MONO | MPG123_STEREO, MPG123_ENC_SIGNED_16);
     int encoding = 0;
     v.opened = mpg123_open(m, QFile::encodeName(path).constData()) == MPG123_OK &&
                mpg123_getformat(m, &v.rate, &v.channels, &encoding) == MPG123_OK &&
@@ -137,32 +132,26 @@ struct LengthCase {
     Mp3Recipe recipe;  // encoded with LAME unless made by hand
     QByteArray (*handMade)() = nullptr;
     bool id3v2 = false;  // an ID3v2 tag in front
-    // The tool's samples byte for byte and a notification from frame 0 on; not so for MPEG-2
-    // VBR, where the tool rounds a few samples otherwise and the trimming takes frame 0 whole.
-    bool exact = true;
 };
 
 void PrintTo(const LengthCase& c, std::ostream* os) { *os << c.name; }
 
 using M = LengthSurvey::Method;
 const LengthCase kCases[] = {
-    {"cbr128_no_info", M::ConstantRate, false, {.kbps = 128, .seconds = 6}},
-    {"cbr192_48k_stereo_info", M::XingFrames, true, {.rate = 48000, .joint = false, .kbps = 192, .info = true}},
+    {"cbr192_48k_info", M::XingFrames, true, {.rate = 48000, .joint = false, .kbps = 192, .info = true}},
     {"cbr256_id3v2_id3v1", M::ConstantRate, false, {.kbps = 256, .seconds = 4, .id3v1 = true}, nullptr, true},
     {"cbr32_22k_mono", M::ConstantRate, false, {.rate = 22050, .channels = 1, .kbps = 32, .seconds = 8}},
     {"vbr_xing", M::XingFrames, true, {.vbr = true, .seconds = 4}},
-    {"vbr_no_xing", M::Scan, false, {.vbr = true, .xing = false, .seconds = 4}},
-    {"vbr_48k_mono_xing_id3v1", M::XingFrames, true, {.rate = 48000, .channels = 1, .vbr = true, .id3v1 = true}},
-    {"vbr_22k_mono_xing", M::XingFrames, true, {.rate = 22050, .channels = 1, .vbr = true}, nullptr, false, false},
+    {"vbr_48k_mono_id3v1", M::XingFrames, true, {.rate = 48000, .channels = 1, .vbr = true, .id3v1 = true}},
+    {"vbr_22k_mono", M::XingFrames, true, {.rate = 22050, .channels = 1, .vbr = true}},
     {"free_format", M::Scan, false, {.kbps = 200, .freeFormat = true, .seconds = 4}},
     {"vbri", M::VbriFrames, false, {}, vbriFile},
-    {"xing_without_frames", M::Scan, false, {}, xingWithoutFrames},
-    {"xing_without_lame", M::XingFrames, true, {}, xingWithoutLame},
+    {"xing_without_frames", M::Scan, false, {}, [] { return xingFile(2); }},
+    {"xing_without_lame", M::XingFrames, true, {}, [] { return xingFile(1); }},
     {"silent_start_vbr", M::Scan, false, {}, silentStartVbr},
     // Never padded: the mean frame size would count these 2,000 frames 5 short.
     {"cbr_unpadded", M::ConstantRate, false, {}, [] { return constantRate(128, 2000, false); }},
-    {"cbr_junk_before_tag", M::ConstantRate, false, {},
-     [] { return constantRate(128, 600) + QByteArray(2000, '\0') + fixtureTag(); }},
+    {"cbr_junk_before_tag", M::ConstantRate, false, {}, junkBeforeTag},
 };
 
 class PlayerLengthTest : public ::testing::TestWithParam<LengthCase> {
@@ -184,7 +173,8 @@ TEST_P(PlayerLengthTest, SurveyPlayerAndDecodingAgreeWithTheTool) {
     }
     if (c.id3v2) bytes = withId3v2(bytes);
     ASSERT_TRUE(writeFile(mp3, bytes));
-    const LengthSurvey survey = surveyLength(bytes.size(), [&](qint64 at, qint64 n) { return bytes.mid(at, n); });
+    const LengthSurvey survey =
+        surveyLength(bytes.size(), [&](qint64 at, qint64 n) { return bytes.mid(at, n); });
     EXPECT_EQ(survey.method, c.method);
     if (survey.method != M::Scan) {
         const LibraryView lib = libraryView(mp3);
@@ -200,7 +190,8 @@ TEST_P(PlayerLengthTest, SurveyPlayerAndDecodingAgreeWithTheTool) {
         }
     }
 
-    const QString raw = dir.filePath("raw.wav"), trimmed = dir.filePath("tool.wav"), ours = dir.filePath("ours.wav");
+    const QString raw = dir.filePath("raw.wav"), trimmed = dir.filePath("tool.wav"),
+                  ours = dir.filePath("ours.wav");
     ASSERT_EQ(mpg123ToWav(mp3, raw, {"--no-gapless"}), 0);
     ASSERT_EQ(mpg123ToWav(mp3, trimmed), 0);
     const WavFile toolRaw = readWav(raw), tool = readWav(trimmed);
@@ -222,11 +213,12 @@ TEST_P(PlayerLengthTest, SurveyPlayerAndDecodingAgreeWithTheTool) {
     // Decoding runs to the file's real end whatever the count said.
     h.player.setNotifyInterval(32);
     h.player.Play();
-    h.waitForEnds();
-    h.settle();
+    h.finish();
     EXPECT_EQ(h.events.last(), "end");
     EXPECT_EQ(h.ends, 1);
-    if (!c.exact) {
+    // The tool's samples byte for byte and a notification from frame 0 on; not so for MPEG-2
+    // VBR, where the tool rounds a few samples otherwise and the trimming takes frame 0 whole.
+    if (c.recipe.vbr && c.recipe.rate < 32000) {
         EXPECT_EQ(readWav(ours).data.size(), tool.data.size());
         return;
     }

@@ -3,13 +3,9 @@
 // request is tested on the real program in program_process_test.
 #include <QAccessible>
 #include <QAction>
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
 #include <QMenuBar>
 
 #include "WindowsFixture.h"
-#include "ui/views/MenuBarBinder.h"
 
 namespace sonarium {
 namespace {
@@ -116,28 +112,19 @@ TEST_F(MainWindowTest, AboutIsModalItsOkClosesItAndTheWindowsReturnActivatesTheF
     EXPECT_EQ(activations, 2);
 }
 
-TEST_F(MainWindowTest, KeysGoToTheFormFirstAndASwallowedKeyGoesNoFurther) {
-    tc.dialogs.setAutoAnswerOk(true);  // F4 on an empty queue says so
+TEST_F(MainWindowTest, AKeyReachesTheFormBeforeTheControlWithTheFocus) {
     program().Main();
-    settle();
-    QList<int> codes;
-    auto programKeys = form1().onKeyDown;
-    form1().onKeyDown = [&](int& code, int shift) {
-        codes << code * 10 + shift;
-        programKeys(code, shift);
-    };
-    auto* title = find<QLineEdit>(main(), "txtTitle");
-    ASSERT_NE(title, nullptr);
     form1().PanelSongInfo.setVisible(true);
     settle();
+    QStringList seen;  // each key's code, and the box's text when the form saw it
+    form1().onKeyDown = [&](int& code, int) {
+        seen << QStringLiteral("%1 '%2'").arg(code).arg(form1().txtTitle.Text());
+    };
+    auto* title = find<QLineEdit>(main(), "txtTitle");
     title->setFocus();
-    ASSERT_EQ(main().focusWidget(), title);
-
     key(*title, Qt::Key_A, "a");
-    key(*title, Qt::Key_F4);  // the program's F4 swallows it
-    key(*title, Qt::Key_1, "!", Qt::ShiftModifier);
-    EXPECT_EQ(codes, QList<int>({650, 1150, 491}));
-    EXPECT_EQ(form1().txtTitle.Text(), "a!");
+    EXPECT_EQ(seen, QStringList({"65 ''"}));
+    EXPECT_EQ(form1().txtTitle.Text(), "a");
 }
 
 }  // namespace

@@ -2,13 +2,9 @@
 // paused, switched by a click on a row, and faded, its details seen from the View menu;
 // screenshots of each state. The times, the fade's volumes, the queue's order and the
 // captions are the playback unit tests' to check.
-#include <QLabel>
-#include <QLineEdit>
-#include <QListWidget>
 
 #include "WindowsFixture.h"
 #include "engine/id3/Id3v1Writer.h"
-#include "ui/views/MenuBarBinder.h"
 
 using namespace sonarium;
 

@@ -3,17 +3,16 @@
 // ends the program's process within five seconds whatever it is doing, here with a modal
 // question open (a paused song is the shutdown unit tests' case). Each end leaves both
 // settings files whole.
+#include <QtCore/qtestsupport_core.h>
 #include <gtest/gtest.h>
 #include <signal.h>
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QThread>
 #include <QTimer>
-#include <functional>
 
 #include "app/Application.h"
 #include "ui/MainWindow.h"
@@ -21,16 +20,6 @@
 namespace {
 
 using namespace sonarium;
-
-bool waitFor(const std::function<bool()>& done) {
-    QElapsedTimer clock;
-    clock.start();
-    while (!done()) {
-        if (clock.elapsed() > 20000) return false;
-        QThread::msleep(20);
-    }
-    return true;
-}
 
 QByteArray readAll(const QString& file) {
     QFile f(file);
@@ -108,7 +97,7 @@ TEST_F(ProgramProcess, AModalQuestionDoesNotHoldOffTheEnd) {
     // A song that isn't there, named on the command line: "Open failed ... Retry?" stays up.
     program.start(QStringLiteral(SONARIUM_PROGRAM), {path("Missing.MP3")});
     ASSERT_TRUE(program.waitForStarted());
-    ASSERT_TRUE(waitFor([&] { return readAll(path("Debug.dat")).contains("Init 7"); }));
+    ASSERT_TRUE(QTest::qWaitFor([&] { return readAll(path("Debug.dat")).contains("Init 7"); }, 20000));
     QThread::msleep(300);
     ASSERT_EQ(program.state(), QProcess::Running);
 

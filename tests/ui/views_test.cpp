@@ -1,9 +1,6 @@
 // Each view kind against its model: user input reaches the model in the platform's terms and
 // order, and the widget shows what the model holds, also after the model's handlers change it.
-#include <QAbstractButton>
 #include <QComboBox>
-#include <QLineEdit>
-#include <QListWidget>
 
 #include "WindowsFixture.h"
 

@@ -15,15 +15,6 @@
 namespace sonarium {
 namespace {
 
-// Runs `act` on the modal box once its own event loop runs.
-void whenUp(const std::function<void(QMessageBox&)>& act) {
-    QTimer::singleShot(0, qApp, [act] {
-        auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
-        ASSERT_NE(box, nullptr) << "no modal box is up";
-        act(*box);
-    });
-}
-
 void escape(QWidget& box) {
     QKeyEvent press(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
     QCoreApplication::sendEvent(&box, &press);
@@ -54,8 +45,13 @@ TEST(QtDialogsTest, EachButtonSetShowsItsButtonsAndAnswersForEachWayOfClosing) {
         QStringList names;
         for (const auto& button : c.buttons) names << button.first;
         SCOPED_TRACE(names.join(u' ').toStdString());
+        // Asks, and runs `act` on the modal box once its own event loop runs.
         auto ask = [&](const std::function<void(QMessageBox&)>& act) {
-            whenUp(act);
+            QTimer::singleShot(0, qApp, [act] {
+                auto* box = qobject_cast<QMessageBox*>(QApplication::activeModalWidget());
+                ASSERT_NE(box, nullptr) << "no modal box is up";
+                act(*box);
+            });
             return dialogs.msgBox(text, c.set, MsgIcon::Question, QString());
         };
         for (const auto& button : c.buttons) {

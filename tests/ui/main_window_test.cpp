@@ -103,20 +103,5 @@ TEST_F(MainWindowTest, AboutIsModalItsOkClosesItAndTheWindowsReturnActivatesTheF
     EXPECT_EQ(activations, 2);
 }
 
-TEST_F(MainWindowTest, AKeyReachesTheFormBeforeTheControlWithTheFocus) {
-    program().Main();
-    form1().PanelSongInfo.setVisible(true);
-    settle();
-    QStringList seen;  // each key's code, and the box's text when the form saw it
-    form1().onKeyDown = [&](int& code, int) {
-        seen << QStringLiteral("%1 '%2'").arg(code).arg(form1().txtTitle.Text());
-    };
-    auto* title = find<QLineEdit>(main(), "txtTitle");
-    title->setFocus();
-    key(*title, Qt::Key_A, "a");
-    EXPECT_EQ(seen, QStringList({"65 ''"}));
-    EXPECT_EQ(form1().txtTitle.Text(), "a");
-}
-
 }  // namespace
 }  // namespace sonarium

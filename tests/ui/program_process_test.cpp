@@ -1,4 +1,5 @@
-// The real program on the silent output, from start to end. A user's close stops the song,
+// The real program on the silent output, from start to end: the start's rules the window
+// tests do not reach (the command line, the platform). A user's close stops the song,
 // saves the settings and ends the event loop with 0. A termination signal (a kill, a logout)
 // ends the program's process within five seconds whatever it is doing, here with a modal
 // question open (a paused song is the shutdown unit tests' case). Each end leaves both
@@ -20,6 +21,14 @@
 namespace {
 
 using namespace sonarium;
+
+// The arguments are one name with its blanks; a Wayland session gets the X11 platform unless
+// the user chose one.
+TEST(Startup, CommandLineAndPlatform) {
+    EXPECT_EQ(commandLineOf({"sonarium", "/music/My", "Song.mp3"}), "/music/My Song.mp3");
+    EXPECT_EQ(platformFor("", "wayland-0", ""), "xcb");
+    EXPECT_EQ(platformFor("wayland", "wayland-0", "wayland"), "");
+}
 
 QByteArray readAll(const QString& file) {
     QFile f(file);

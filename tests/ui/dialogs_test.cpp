@@ -25,8 +25,9 @@ QString shownText(const QAbstractButton* b) { return b ? b->text().remove(u'&') 
 
 struct BoxCase {
     MsgButtons set;
-    std::vector<std::pair<QString, MsgResult>> buttons;  // as shown, the default first, and their answers
-    MsgResult escaped;                                   // Escape, and the window's close
+    QStringList names;               // the buttons as shown, the default first
+    std::vector<MsgResult> answers;  // theirs, in the same order
+    MsgResult escaped;               // Escape's, and the window's close's
 };
 
 TEST(QtDialogsTest, EachButtonSetShowsItsButtonsAndAnswersForEachWayOfClosing) {
@@ -34,17 +35,15 @@ TEST(QtDialogsTest, EachButtonSetShowsItsButtonsAndAnswersForEachWayOfClosing) {
     using R = MsgResult;
     // One set for each way a box can be closed without a button, between them every button.
     const BoxCase cases[] = {
-        {B::OK, {{"OK", R::OK}}, R::OK},
-        {B::AbortRetryIgnore, {{"Abort", R::Abort}, {"Retry", R::Retry}, {"Ignore", R::Ignore}}, R::Abort},
-        {B::YesNoCancel, {{"Yes", R::Yes}, {"No", R::No}, {"Cancel", R::Cancel}}, R::Cancel},
-        {B::YesNo, {{"Yes", R::Yes}, {"No", R::No}}, R::No},
+        {B::OK, {"OK"}, {R::OK}, R::OK},
+        {B::AbortRetryIgnore, {"Abort", "Retry", "Ignore"}, {R::Abort, R::Retry, R::Ignore}, R::Abort},
+        {B::YesNoCancel, {"Yes", "No", "Cancel"}, {R::Yes, R::No, R::Cancel}, R::Cancel},
+        {B::YesNo, {"Yes", "No"}, {R::Yes, R::No}, R::No},
     };
     const QString text = QStringLiteral("Replace <b>Rock & Roll</b>?");  // shown as it is, not as markup
     QtDialogs dialogs;
     for (const BoxCase& c : cases) {
-        QStringList names;
-        for (const auto& button : c.buttons) names << button.first;
-        SCOPED_TRACE(names.join(u' ').toStdString());
+        SCOPED_TRACE(c.names.join(u' ').toStdString());
         // Asks, and runs `act` on the modal box once its own event loop runs.
         auto ask = [&](const std::function<void(QMessageBox&)>& act) {
             QTimer::singleShot(0, qApp, [act] {
@@ -54,18 +53,18 @@ TEST(QtDialogsTest, EachButtonSetShowsItsButtonsAndAnswersForEachWayOfClosing) {
             });
             return dialogs.msgBox(text, c.set, MsgIcon::Question, QString());
         };
-        for (const auto& button : c.buttons) {
+        for (std::size_t i = 0; i < c.answers.size(); ++i) {
             const MsgResult answer = ask([&](QMessageBox& box) {
                 QStringList shown;
                 for (QAbstractButton* b : box.buttons()) shown << shownText(b);
-                EXPECT_EQ(QSet(shown.begin(), shown.end()), QSet(names.begin(), names.end()));
-                EXPECT_EQ(shownText(box.defaultButton()), names.first());
+                EXPECT_EQ(QSet(shown.begin(), shown.end()), QSet(c.names.begin(), c.names.end()));
+                EXPECT_EQ(shownText(box.defaultButton()), c.names.first());
                 EXPECT_EQ(box.text(), text);
                 EXPECT_EQ(box.textFormat(), Qt::PlainText);
                 for (QAbstractButton* b : box.buttons())
-                    if (shownText(b) == button.first) b->click();
+                    if (shownText(b) == c.names[qsizetype(i)]) b->click();
             });
-            EXPECT_EQ(answer, button.second) << button.first.toStdString();
+            EXPECT_EQ(answer, c.answers[i]) << c.names[qsizetype(i)].toStdString();
         }
         EXPECT_EQ(ask([](QMessageBox& box) { escape(box); }), c.escaped) << "Escape";
         EXPECT_EQ(ask([](QMessageBox& box) { box.close(); }), c.escaped) << "close";

@@ -1,11 +1,14 @@
-// The real windows over the program on fakes: what a user and a screen reader see at start,
-// and that the window's events reach the models and the program's procedures. The close
-// request is tested on the real program in program_process_test.
+// The real main window and its dialog over the program on fakes: what a user and a screen
+// reader see at start, that the window's events reach the models and the program's
+// procedures, a user's session, the dialog's faces and the skins; screenshots of each. The
+// close request is tested on the real program in program_process_test.
 #include <QAccessible>
 #include <QAction>
+#include <QDirIterator>
 #include <QMenuBar>
 
 #include "WindowsFixture.h"
+#include "engine/id3/Id3v1Writer.h"
 
 namespace sonarium {
 namespace {
@@ -101,6 +104,135 @@ TEST_F(MainWindowTest, AboutIsModalItsOkClosesItAndTheWindowsReturnActivatesTheF
     main().activateWindow();
     settle();
     EXPECT_EQ(activations, 2);
+}
+
+// A user's session: a folder's songs queued from the title pane, played, paused, switched by a
+// click on a row, and faded, its details seen from the View menu; screenshots of each state.
+// The times, the fade's volumes, the queue's order and the captions are the playback unit
+// tests' to check.
+TEST_F(MainWindowTest, QueuePlayPauseSkipAndFadeFromTheWindow) {
+    for (const char* name : {"Blue Night", "Harbour Lights", "Northern Road"}) {
+        write(QString::fromLatin1(name) + ".MP3", {});
+        tc.mp3.addFile(path(QString::fromLatin1(name) + ".MP3"), 7800, 204.0f, 192, 44100, 1);
+    }
+    // The last song carries a tag, for the song's details to show.
+    Id3v1Changes tag;
+    tag.title = QStringLiteral("Northern Road");
+    ASSERT_TRUE(writeId3v1(path("Northern Road.MP3"), tag));
+    program().Main();
+    Form1& f = form1();
+    f.Dir1.setPath(QStringLiteral(".."));
+    f.Dir1.setPath(dir.path());  // the folder chosen in the browser fills the title pane
+    settle();
+    for (int i = 0; i < 3; ++i) secondClick(*find(main(), QStringLiteral("Title(%1)").arg(i)), QPoint(5, 5));
+    auto* queue = find<QListWidget>(main(), "lstSongs");
+    ASSERT_EQ(queue->count(), 3);
+    f.mnuOrdered.Click();
+    click(*queue->viewport(), rowAt(*queue, 0));
+    press("BtnPlay");
+    ASSERT_TRUE(M().SongPlaying);
+    tc.loop.advance(66000);
+    settle();
+    EXPECT_EQ(find<QLabel>(main(), "lblTime")->text(), f.lblTime.Caption());
+    saveScreenshot(main(), "playing.png");
+    press("BtnPause");
+    EXPECT_TRUE(M().SongPaused);
+    saveScreenshot(main(), "paused.png");
+    press("BtnPause");
+
+    click(*queue->viewport(), rowAt(*queue, 2));  // a click on a row during play switches to it at once
+    EXPECT_EQ(tc.mp3.openFile(), path("Northern Road.MP3"));
+
+    press("BtnFade");
+    tc.loop.advance(1000);
+    settle();
+    saveScreenshot(main(), "fading.png");
+    tc.loop.advance(800);
+    settle();
+    EXPECT_FALSE(M().SongPlaying);
+    saveScreenshot(main(), "stopped-after-fade.png");
+
+    // View: the song's details, read from its tag, take the photo's place.
+    main().menus().actionOf(f.mnuSongInfo)->trigger();
+    settle();
+    EXPECT_FALSE(find(main(), "PanelPhoto")->isVisible());
+    auto* title = find<QLineEdit>(main(), "txtTitle");
+    ASSERT_TRUE(title->isVisible());
+    EXPECT_TRUE(title->text().startsWith("Northern Road")) << title->text().toStdString();
+    saveScreenshot(main(), "song-details.png");
+}
+
+// The dialog's scan and add faces: each face shows its own controls (the scan face its
+// sub-folder box, the add face the folder's songs), a user's pick in its file list reaches the
+// model, and its buttons answer and close it.
+TEST_F(MainWindowTest, TheDialogsScanAndAddFacesShowTheirControlsAndAnswer) {
+    QDir().mkpath(path("Albums"));
+    write("Song.MP3", {});
+    tc.mp3.addFile(path("Song.MP3"), 100, 65);
+    tc.dialogs.setAutoAnswerOk(true);
+    program().Main();
+    whileShown([&](GeneralWindow& w) {
+        QWidget* subs = find(w, "chkSubs");
+        ASSERT_TRUE(subs && subs->isVisible());
+        saveScreenshot(w, "scan-dialog.png");
+        find<QAbstractButton>(w, "cmdOK")->click();
+    });
+    form1().cmdSearch.Click();
+    EXPECT_EQ(tc.dialogs.texts(), QStringList({"1 new titles found"}));
+
+    whileShown([&](GeneralWindow& w) {
+        auto* files = find<QListWidget>(w, "File1");
+        ASSERT_TRUE(files && files->count() == 1);
+        click(*files->viewport(), rowAt(*files, 0));
+        EXPECT_EQ(program().frmGeneral.File1.FileName(), "Song.MP3");
+        saveScreenshot(w, "add-dialog.png");
+        find<QAbstractButton>(w, "cmdAdd")->click();
+        find<QAbstractButton>(w, "CmdClose")->click();
+    });
+    form1().CmdDataAdd.Click();
+    settle();
+    EXPECT_FALSE(views->general().isVisible());
+    EXPECT_EQ(tc.dialogs.texts().last(), "File Added");
+}
+
+// The main window in its skins, for people to look at: the built-in look, the other skins
+// shipped with the program, and the playing state with the lamps lit. Which piece dresses which
+// control is the skin unit tests' to check.
+TEST_F(MainWindowTest, SkinsTheBuiltInLookTheOtherSkinsAndPlaying) {
+    program().Main();
+    settle();
+    tc.dialogs.clear();
+    Form1& f = form1();
+    saveScreenshot(main(), "skin-default.png");
+    press("imgDataBase");
+    saveScreenshot(main(), "skin-default-library.png");
+    press("imgDataBase");
+
+    // Every other skin shipped beside the default one loads whole.
+    for (QDirIterator it(QStringLiteral(SONARIUM_SKINS_DIR), QDir::Dirs | QDir::NoDotAndDotDot);
+         it.hasNext();) {
+        const QString dir = it.next();
+        if (QFileInfo(dir).fileName() == QLatin1String("Default")) continue;
+        registerSkin(dir);
+        M().SkinPath = dir;
+        f.LoadSkin();
+        settle();
+        EXPECT_EQ(f.PicDatabase.picture().source(), dir + "/PanelDatabase.bmp");
+        saveScreenshot(main(), "skin-" + QFileInfo(dir).fileName().toLower() + ".png");
+    }
+
+    // Back in the built-in look: a song playing with the meter in the slider's place.
+    registerSkin(Form1::BuiltInSkin);
+    f.ApplySkinFiles(Form1::BuiltInSkin);
+    f.lstSongs.AddItem("Harbour Lights");
+    M().SongPath[0] = path("") + u'/';
+    tc.mp3.addFile(path("Harbour Lights.MP3"), 11000, 287.0f);
+    f.mnuVU.Click();
+    tc.peak.setReadings({1300 * tc.peak.Maximum() / 1800});
+    f.BtnPlay.MouseUp(LeftButton, 0, 0, 0);
+    tc.loop.advance(1000);
+    settle();
+    saveScreenshot(main(), "skin-playing.png");
 }
 
 }  // namespace

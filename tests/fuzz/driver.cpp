@@ -77,10 +77,9 @@ int main(int argc, char** argv) {
     const std::vector<Seed> seeds = FUZZ_SEEDS();
     if (argc == 2) {
         for (const Seed& s : seeds) {
-            const std::string file = std::string(argv[1]) + "/" + s.name;
-            std::ofstream out(file, std::ios::binary);
+            std::ofstream out(std::string(argv[1]) + "/" + s.name, std::ios::binary);
             if (!out.write(reinterpret_cast<const char*>(s.bytes.data()), std::streamsize(s.bytes.size()))) {
-                std::fprintf(stderr, "cannot write %s\n", file.c_str());
+                std::perror(argv[1]);
                 return 1;
             }
         }

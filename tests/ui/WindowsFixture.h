@@ -78,11 +78,10 @@ protected:
         click(*w, QPoint(3, 3));
         settle();
     }
-    static void key(QWidget& w, int qtKey, const QString& text = {},
-                    Qt::KeyboardModifiers mods = Qt::NoModifier) {
-        QKeyEvent press(QEvent::KeyPress, qtKey, mods, text);
+    static void key(QWidget& w, int qtKey, const QString& text = {}) {
+        QKeyEvent press(QEvent::KeyPress, qtKey, Qt::NoModifier, text);
         QCoreApplication::sendEvent(&w, &press);
-        QKeyEvent release(QEvent::KeyRelease, qtKey, mods, text);
+        QKeyEvent release(QEvent::KeyRelease, qtKey, Qt::NoModifier, text);
         QCoreApplication::sendEvent(&w, &release);
     }
 

@@ -74,7 +74,7 @@ int main(int argc, char** argv) {
     constexpr int kMutations = 4000;
     constexpr auto kBudget = std::chrono::seconds(2);
 
-    const std::vector<Seed> seeds = FUZZ_SEEDS();
+    const std::vector<Seed> seeds = FUZZ_SEEDS();  // the build names the target's seed function
     if (argc == 2) {
         for (const Seed& s : seeds) {
             std::ofstream out(std::string(argv[1]) + "/" + s.name, std::ios::binary);

@@ -11,7 +11,6 @@
 #include <QApplication>
 #include <QLabel>
 #include <QProcess>
-#include <QThread>
 #include <QTimer>
 
 #include "ProgramFixture.h"
@@ -97,7 +96,7 @@ TEST_F(ProgramProcess, AModalQuestionDoesNotHoldOffTheEnd) {
     process.start(QStringLiteral(SONARIUM_PROGRAM), {path("Missing.MP3")});
     ASSERT_TRUE(process.waitForStarted());
     ASSERT_TRUE(QTest::qWaitFor([&] { return read("Debug.dat").contains("Init 7"); }, 20000));
-    QThread::msleep(300);
+    QTest::qSleep(300);
     ASSERT_EQ(process.state(), QProcess::Running);
 
     // It ends in time, by itself and without error.

@@ -7,15 +7,15 @@
 #include <cstdlib>
 
 // A broken invariant: say which, then abort so that the fuzzer keeps the input.
-#define FUZZ_CHECK(cond)                                                                  \
-    do {                                                                                  \
-        if (!(cond)) {                                                                    \
-            std::fprintf(stderr, "%s:%d: check failed: %s\n", __FILE__, __LINE__, #cond); \
-            std::abort();                                                                 \
-        }                                                                                 \
-    } while (0)
+#define FUZZ_CHECK(cond) ::sonarium::fuzz::check(bool(cond), #cond, __FILE__, __LINE__)
 
 namespace sonarium::fuzz {
+
+inline void check(bool ok, const char* what, const char* file, int line) {
+    if (ok) return;
+    std::fprintf(stderr, "%s:%d: check failed: %s\n", file, line, what);
+    std::abort();
+}
 
 // The name of the process's one scratch file, now holding the `size` bytes at `data`; it is
 // removed at exit.

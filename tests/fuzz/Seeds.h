@@ -22,9 +22,4 @@ std::vector<Seed> seedCorpus();
 // a name of 50,000 components.
 std::vector<Seed> pathSeeds();
 
-// The seeds of the target being built (FUZZ_SEEDS names the function; MP3 files by default).
-#ifndef FUZZ_SEEDS
-#define FUZZ_SEEDS seedCorpus
-#endif
-
 }  // namespace sonarium::fuzz

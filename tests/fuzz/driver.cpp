@@ -1,10 +1,12 @@
 // The main of a fuzz target in builds without libFuzzer: the seed corpus, then seeded
 // mutations of it, so that every test run feeds the target the same inputs and a failure
 // repeats, under a debugger if need be. Stops after kMutations inputs or kBudget, whichever
-// comes first. (A libFuzzer build saves and replays crashing inputs itself.)
+// comes first. (A libFuzzer build saves and replays crashing inputs itself.) Given a directory,
+// it writes the seeds there instead, one file each, for a libFuzzer run to start from.
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <fstream>
 #include <random>
 #include <string>
 
@@ -67,12 +69,22 @@ Bytes mutate(const Bytes& input, const Bytes& other, std::mt19937& rng) {
 
 }  // namespace
 
-int main() {
+int main(int argc, char** argv) {
     using namespace sonarium::fuzz;
     constexpr int kMutations = 4000;
     constexpr auto kBudget = std::chrono::seconds(2);
 
-    const std::vector<Seed> seeds = FUZZ_SEEDS();
+    const std::vector<Seed> seeds = FUZZ_SEEDS();  // the build names the target's seed function
+    if (argc == 2) {
+        for (const Seed& s : seeds) {
+            std::ofstream out(std::string(argv[1]) + "/" + s.name, std::ios::binary);
+            if (!out.write(reinterpret_cast<const char*>(s.bytes.data()), std::streamsize(s.bytes.size()))) {
+                std::perror(argv[1]);
+                return 1;
+            }
+        }
+        return 0;
+    }
     for (const Seed& s : seeds) LLVMFuzzerTestOneInput(s.bytes.data(), s.bytes.size());
 
     std::mt19937 rng(20240601);

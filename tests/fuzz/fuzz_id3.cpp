@@ -42,16 +42,14 @@ void checkRead(const QByteArray& bytes) {
 Id3v1Changes changesFrom(const QByteArray& bytes) {
     Id3v1Changes c;
     if (bytes.size() < 4) return c;
-    const int mask = static_cast<unsigned char>(bytes[0]);
+    auto byte = [&](int i) { return static_cast<unsigned char>(bytes[i]); };
     const QString text = QString::fromUtf8(bytes.mid(4, 40));
-    if (mask & 1) c.title = text;
-    if (mask & 2) c.artist = text.left(3);
-    if (mask & 4) c.album = QString();
-    if (mask & 8) c.comment = text + text;
-    if (mask & 16)
-        c.year = static_cast<qint16>((static_cast<unsigned char>(bytes[1]) << 8) |
-                                     static_cast<unsigned char>(bytes[2]));
-    if (mask & 32) c.genre = static_cast<signed char>(bytes[3]);
+    if (byte(0) & 1) c.title = text;
+    if (byte(0) & 2) c.artist = text.left(3);
+    if (byte(0) & 4) c.album = QString();
+    if (byte(0) & 8) c.comment = text + text;
+    if (byte(0) & 16) c.year = static_cast<qint16>(byte(1) << 8 | byte(2));
+    if (byte(0) & 32) c.genre = static_cast<signed char>(byte(3));
     return c;
 }
 

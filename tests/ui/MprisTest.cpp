@@ -2,12 +2,11 @@
 // client: a command reaches the program, and a property shows a pause made in the window.
 // What each command does and what each property holds is MediaControlsTest's to check; the
 // program without a bus runs in program_process_test.
+#include <QtCore/qtestsupport_core.h>
+
 #include <QDBusConnection>
-#include <QElapsedTimer>
-#include <QEventLoop>
 #include <QProcess>
 #include <QStandardPaths>
-#include <QTimer>
 
 #include "WindowsFixture.h"
 #include "ui/mpris/MprisService.h"
@@ -17,19 +16,6 @@ using namespace sonarium;
 namespace {
 
 constexpr int TimeoutMs = 20000;
-
-// Lets Qt run (the service answers on this thread) until `done` or the timeout.
-bool spinUntil(const std::function<bool()>& done) {
-    QElapsedTimer clock;
-    clock.start();
-    while (!done()) {
-        if (clock.elapsed() > TimeoutMs) return false;
-        QEventLoop loop;
-        QTimer::singleShot(10, &loop, &QEventLoop::quit);
-        loop.exec();
-    }
-    return true;
-}
 
 using MprisTest = WindowsFixture;
 
@@ -58,7 +44,8 @@ TEST_F(MprisTest, TheDesktopsClientPlaysAndReadsTheStatus) {
         env.insert("DBUS_SESSION_BUS_ADDRESS", address);
         p.setProcessEnvironment(env);
         p.start("playerctl", {"-p", "sonarium", command});
-        EXPECT_TRUE(spinUntil([&] { return p.state() == QProcess::NotRunning; })) << command.toStdString();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return p.state() == QProcess::NotRunning; }, TimeoutMs))
+            << command.toStdString();
         EXPECT_EQ(p.exitCode(), 0) << command.toStdString() << ": " << p.readAllStandardError().toStdString();
         return QString::fromUtf8(p.readAllStandardOutput()).trimmed();
     };

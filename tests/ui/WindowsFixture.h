@@ -1,9 +1,12 @@
 #pragma once
 // The program on fakes, in a fresh current directory, with the real windows mirroring it on
-// Qt's offscreen platform. Helpers send the events a user would.
+// Qt's offscreen platform. Helpers send the events a user would; the widget headers here are
+// the ones the window tests share.
 #include <QAbstractButton>
 #include <QApplication>
 #include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMouseEvent>
 #include <functional>
@@ -14,6 +17,7 @@
 #include "ui/GeneralWindow.h"
 #include "ui/MainWindow.h"
 #include "ui/Views.h"
+#include "ui/views/MenuBarBinder.h"
 
 namespace sonarium {
 
@@ -74,11 +78,10 @@ protected:
         click(*w, QPoint(3, 3));
         settle();
     }
-    static void key(QWidget& w, int qtKey, const QString& text = {},
-                    Qt::KeyboardModifiers mods = Qt::NoModifier) {
-        QKeyEvent press(QEvent::KeyPress, qtKey, mods, text);
+    static void key(QWidget& w, int qtKey, const QString& text = {}) {
+        QKeyEvent press(QEvent::KeyPress, qtKey, Qt::NoModifier, text);
         QCoreApplication::sendEvent(&w, &press);
-        QKeyEvent release(QEvent::KeyRelease, qtKey, mods, text);
+        QKeyEvent release(QEvent::KeyRelease, qtKey, Qt::NoModifier, text);
         QCoreApplication::sendEvent(&w, &release);
     }
 

@@ -1,7 +1,6 @@
 // The library panel in the real window over a real library: opened from its button, a far
 // row picked, a cell typed into, its column menus used. Screenshots of each stage.
 #include <QAbstractEventDispatcher>
-#include <QListWidget>
 #include <QTableView>
 
 #include "WindowsFixture.h"

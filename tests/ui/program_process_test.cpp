@@ -1,20 +1,19 @@
-// The real program on the silent output, from start to end. A user's close stops the song,
+// The real program on the silent output, from start to end: the start's rules the window
+// tests do not reach (the command line, the platform). A user's close stops the song,
 // saves the settings and ends the event loop with 0. A termination signal (a kill, a logout)
 // ends the program's process within five seconds whatever it is doing, here with a modal
 // question open (a paused song is the shutdown unit tests' case). Each end leaves both
 // settings files whole.
+#include <QtCore/qtestsupport_core.h>
 #include <gtest/gtest.h>
 #include <signal.h>
 
 #include <QApplication>
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QProcess>
-#include <QTemporaryDir>
-#include <QThread>
 #include <QTimer>
-#include <functional>
 
+#include "ProgramFixture.h"
 #include "app/Application.h"
 #include "ui/MainWindow.h"
 
@@ -22,36 +21,26 @@ namespace {
 
 using namespace sonarium;
 
-bool waitFor(const std::function<bool()>& done) {
-    QElapsedTimer clock;
-    clock.start();
-    while (!done()) {
-        if (clock.elapsed() > 20000) return false;
-        QThread::msleep(20);
-    }
-    return true;
+// The arguments are one name with its blanks; a Wayland session gets the X11 platform unless
+// the user chose one.
+TEST(Startup, CommandLineAndPlatform) {
+    EXPECT_EQ(commandLineOf({"sonarium", "/music/My", "Song.mp3"}), "/music/My Song.mp3");
+    EXPECT_EQ(platformFor("", "wayland-0", ""), "xcb");
+    EXPECT_EQ(platformFor("wayland", "wayland-0", "wayland"), "");
 }
 
-QByteArray readAll(const QString& file) {
-    QFile f(file);
-    return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-}
-
-class ProgramProcess : public ::testing::Test {
+// The real program; the program fixture serves for its temporary folder and file helpers.
+class ProgramProcess : public ProgramFixture {
 protected:
-    QString path(const QString& name) const { return home.filePath(name); }
-
     // Config.dat's twelve lines and Mixer.dat's levels and queue, each whole.
     void expectSettingsSavedWith(const QString& queuedTitle) {
-        const QByteArray config = readAll(path("Config.dat"));
+        const QByteArray config = read("Config.dat");
         EXPECT_EQ(config.count("\r\n"), 12) << config.constData();
         EXPECT_TRUE(config.endsWith("\r\n"));
-        const QByteArray mixer = readAll(path("Mixer.dat"));
+        const QByteArray mixer = read("Mixer.dat");
         EXPECT_TRUE(mixer.endsWith("\r\n")) << mixer.constData();
         EXPECT_TRUE(mixer.contains(queuedTitle.toUtf8())) << mixer.constData();
     }
-
-    QTemporaryDir home;
 };
 
 // The program object main() builds, in this process, so that the test can close its window.
@@ -60,9 +49,7 @@ TEST_F(ProgramProcess, ASongPlaysAndTheWindowsCloseEndsTheProgram) {
     // information decodes as silence.
     QByteArray frame(417, '\0');
     frame.replace(0, 4, QByteArray::fromHex("FFFB9064"));
-    QFile song(path("Tone.MP3"));
-    ASSERT_TRUE(song.open(QIODevice::WriteOnly) && song.write(frame.repeated(800)) > 0);
-    song.close();
+    write("Tone.MP3", frame.repeated(800));
     const QByteArray sessionBus = qgetenv("DBUS_SESSION_BUS_ADDRESS");
     qunsetenv("DBUS_SESSION_BUS_ADDRESS");
     qputenv("SONARIUM_AUDIO", "null");
@@ -71,7 +58,7 @@ TEST_F(ProgramProcess, ASongPlaysAndTheWindowsCloseEndsTheProgram) {
     bool closeRefused = false;
     int exitCode = -1;
     {
-        Application application({"sonarium", path("Tone.MP3")}, home.path());
+        Application application({"sonarium", path("Tone.MP3")}, dir.path());
         MainWindow& window = application.views().main();
         application.start();
         // Once the song has played a second, the user closes the window.
@@ -97,26 +84,26 @@ TEST_F(ProgramProcess, ASongPlaysAndTheWindowsCloseEndsTheProgram) {
 }
 
 TEST_F(ProgramProcess, AModalQuestionDoesNotHoldOffTheEnd) {
-    QProcess program;  // killed as it goes, should it outlive the test
+    QProcess process;  // killed as it goes, should it outlive the test
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
     env.insert("QT_QPA_PLATFORM", "offscreen");
     env.insert("SONARIUM_AUDIO", "null");
     env.remove("DBUS_SESSION_BUS_ADDRESS");  // no media controls
-    program.setProcessEnvironment(env);
-    program.setWorkingDirectory(home.path());
-    program.setProcessChannelMode(QProcess::ForwardedChannels);
+    process.setProcessEnvironment(env);
+    process.setWorkingDirectory(dir.path());
+    process.setProcessChannelMode(QProcess::ForwardedChannels);
     // A song that isn't there, named on the command line: "Open failed ... Retry?" stays up.
-    program.start(QStringLiteral(SONARIUM_PROGRAM), {path("Missing.MP3")});
-    ASSERT_TRUE(program.waitForStarted());
-    ASSERT_TRUE(waitFor([&] { return readAll(path("Debug.dat")).contains("Init 7"); }));
-    QThread::msleep(300);
-    ASSERT_EQ(program.state(), QProcess::Running);
+    process.start(QStringLiteral(SONARIUM_PROGRAM), {path("Missing.MP3")});
+    ASSERT_TRUE(process.waitForStarted());
+    ASSERT_TRUE(QTest::qWaitFor([&] { return read("Debug.dat").contains("Init 7"); }, 20000));
+    QTest::qSleep(300);
+    ASSERT_EQ(process.state(), QProcess::Running);
 
     // It ends in time, by itself and without error.
-    ::kill(pid_t(program.processId()), SIGTERM);
-    ASSERT_TRUE(program.waitForFinished(5000));
-    EXPECT_EQ(program.exitStatus(), QProcess::NormalExit);
-    EXPECT_EQ(program.exitCode(), 0);
+    ::kill(pid_t(process.processId()), SIGTERM);
+    ASSERT_TRUE(process.waitForFinished(5000));
+    EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
+    EXPECT_EQ(process.exitCode(), 0);
     expectSettingsSavedWith("Missing");
 }
 

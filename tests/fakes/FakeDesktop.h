@@ -9,8 +9,6 @@ namespace sonarium {
 
 class FakeDesktop : public Desktop {
 public:
-    // How many times the help page was opened.
-    int helpOpened() const { return helpOpened_; }
     // The exit code of the quit request, if one came.
     std::optional<int> quitCode() const { return quitCode_; }
 
@@ -18,14 +16,10 @@ public:
     QSize screenSizeTwips() override { return {1920 * 15, 1080 * 15}; }
     QPoint cursorPosTwips() override { return {0, 0}; }
     bool openDocument(const QString&) override { return true; }
-    bool openHelp() override {
-        ++helpOpened_;
-        return true;
-    }
+    bool openHelp() override { return true; }
     void quit(int exitCode) override { quitCode_ = exitCode; }
 
 private:
-    int helpOpened_ = 0;
     std::optional<int> quitCode_;
 };
 

@@ -1,10 +1,10 @@
 #pragma once
 // The program built on fakes, started in a fresh directory, as a user's first start sees it.
 // Tests script `tc` first; the program is built on first use of program().
-#include <QFile>
-#include <QTemporaryDir>
 #include <gtest/gtest.h>
 
+#include <QFile>
+#include <QTemporaryDir>
 #include <memory>
 
 #include "TestComponents.h"
@@ -31,9 +31,9 @@ protected:
     // The program on the fakes, but with `data` as its data control (a real library).
     Program& programOn(DataControl& data) {
         Components c = tc.components();
-        components = std::make_unique<Components>(Components{
-            c.loop, c.dialogs, c.desktop, c.pictures, c.volumes, c.mp3, c.mp32, c.encoder, c.cd, c.mixer, c.peak,
-            data, c.processes, c.errors, c.commandLine, c.startDir});
+        components = std::make_unique<Components>(
+            Components{c.loop, c.dialogs, c.desktop, c.pictures, c.volumes, c.mp3, c.mp32, c.encoder, c.cd,
+                       c.mixer, c.peak, data, c.processes, c.errors, c.commandLine, c.startDir});
         prog = std::make_unique<Program>(*components);
         tc.pictures.clearCalls();
         return *prog;

@@ -39,8 +39,8 @@ struct TestComponents {
     TestComponents() { volumes.add(QStringLiteral("/"), QStringLiteral("System")); }
 
     Components components() {
-        return Components{loop,  dialogs, desktop, pictures,  volumes, mp3,         mp32,    encoder, cd,
-                          mixer, peak,    data,    processes, errors,  commandLine, startDir};
+        return Components{loop, dialogs, desktop, pictures, volumes,   mp3,    mp32,        encoder,
+                          cd,   mixer,   peak,    data,     processes, errors, commandLine, startDir};
     }
 };
 

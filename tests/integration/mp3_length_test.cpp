@@ -2,11 +2,7 @@
 // constant rate, full scan), against the truth of decoding it to its end with the mpg123 tool:
 // the frame count within one frame, the length within one frame's time, and decoding through
 // the player to the file's real end, sample for sample, even where the count is an estimate.
-// What the survey says in place of the decoder (format, mode, stated rate, and for a header's
-// count the trimmed length) is held against libmpg123's own report on the same file, so the two
-// cannot drift.
 #include <gtest/gtest.h>
-#include <mpg123.h>
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -94,41 +90,11 @@ QByteArray withId3v2(const QByteArray& audio) {
     return tag + QByteArray(size, '\0') + audio;
 }
 
-// --- What libmpg123 reports after opening a file with the player's gapless trimming ---
-
-struct LibraryView {
-    bool opened = false;
-    long rate = 0;
-    int channels = 0;
-    mpg123_frameinfo frame{};
-    off_t frames = 0, samples = 0;
-};
-
-LibraryView libraryView(const QString& path) {
-    LibraryView v;
-    mpg123_init();
-    mpg123_handle* m = mpg123_new(nullptr, nullptr);
-    mpg123_param(m, MPG123_ADD_FLAGS, MPG123_GAPLESS | MPG123_QUIET, 0);
-    int encoding = 0;
-    v.opened = mpg123_open(m, QFile::encodeName(path).constData()) == MPG123_OK &&
-               mpg123_getformat(m, &v.rate, &v.channels, &encoding) == MPG123_OK &&
-               mpg123_info(m, &v.frame) == MPG123_OK;
-    v.frames = mpg123_framelength(m);
-    v.samples = mpg123_length(m);
-    mpg123_close(m);
-    mpg123_delete(m);
-    return v;
-}
-
 // --- The table: one row for each way the length is found ---
 
 struct LengthCase {
     const char* name;
     LengthSurvey::Method method;
-    // Whether the library's count and trimmed length without a scan are the survey's too: so
-    // for a header it reads as well; for a constant rate or VBRI its own are a guess from the
-    // size. Format, mode and stated rate always agree.
-    bool libraryLength;
     Mp3Recipe recipe;  // encoded with LAME unless made by hand
     QByteArray (*handMade)() = nullptr;
     bool id3v2 = false;  // an ID3v2 tag in front
@@ -138,20 +104,20 @@ void PrintTo(const LengthCase& c, std::ostream* os) { *os << c.name; }
 
 using M = LengthSurvey::Method;
 const LengthCase kCases[] = {
-    {"cbr192_48k_info", M::XingFrames, true, {.rate = 48000, .joint = false, .kbps = 192, .info = true}},
-    {"cbr256_id3v2_id3v1", M::ConstantRate, false, {.kbps = 256, .seconds = 4, .id3v1 = true}, nullptr, true},
-    {"cbr32_22k_mono", M::ConstantRate, false, {.rate = 22050, .channels = 1, .kbps = 32, .seconds = 8}},
-    {"vbr_xing", M::XingFrames, true, {.vbr = true, .seconds = 4}},
-    {"vbr_48k_mono_id3v1", M::XingFrames, true, {.rate = 48000, .channels = 1, .vbr = true, .id3v1 = true}},
-    {"vbr_22k_mono", M::XingFrames, true, {.rate = 22050, .channels = 1, .vbr = true}},
-    {"free_format", M::Scan, false, {.kbps = 200, .freeFormat = true, .seconds = 4}},
-    {"vbri", M::VbriFrames, false, {}, vbriFile},
-    {"xing_without_frames", M::Scan, false, {}, [] { return xingFile(2); }},
-    {"xing_without_lame", M::XingFrames, true, {}, [] { return xingFile(1); }},
-    {"silent_start_vbr", M::Scan, false, {}, silentStartVbr},
+    {"cbr192_48k_info", M::XingFrames, {.rate = 48000, .joint = false, .kbps = 192, .info = true}},
+    {"cbr256_id3v2_id3v1", M::ConstantRate, {.kbps = 256, .seconds = 4, .id3v1 = true}, nullptr, true},
+    {"cbr32_22k_mono", M::ConstantRate, {.rate = 22050, .channels = 1, .kbps = 32, .seconds = 8}},
+    {"vbr_xing", M::XingFrames, {.vbr = true, .seconds = 4}},
+    {"vbr_48k_mono_id3v1", M::XingFrames, {.rate = 48000, .channels = 1, .vbr = true, .id3v1 = true}},
+    {"vbr_22k_mono", M::XingFrames, {.rate = 22050, .channels = 1, .vbr = true}},
+    {"free_format", M::Scan, {.kbps = 200, .freeFormat = true, .seconds = 4}},
+    {"vbri", M::VbriFrames, {}, vbriFile},
+    {"xing_without_frames", M::Scan, {}, [] { return xingFile(2); }},
+    {"xing_without_lame", M::XingFrames, {}, [] { return xingFile(1); }},
+    {"silent_start_vbr", M::Scan, {}, silentStartVbr},
     // Never padded: the mean frame size would count these 2,000 frames 5 short.
-    {"cbr_unpadded", M::ConstantRate, false, {}, [] { return constantRate(128, 2000, false); }},
-    {"cbr_junk_before_tag", M::ConstantRate, false, {}, junkBeforeTag},
+    {"cbr_unpadded", M::ConstantRate, {}, [] { return constantRate(128, 2000, false); }},
+    {"cbr_junk_before_tag", M::ConstantRate, {}, junkBeforeTag},
 };
 
 class PlayerLengthTest : public ::testing::TestWithParam<LengthCase> {
@@ -159,8 +125,8 @@ protected:
     QTemporaryDir dir;
 };
 
-// The survey against libmpg123, then the player's count, length, rate and tag, and its decoding
-// against the tool's: the same samples, every 32nd frame notified, then one StreamEnd.
+// The survey's way, then the player's count, length, rate and tag, and its decoding against the
+// tool's: the same samples, every 32nd frame notified, then one StreamEnd.
 TEST_P(PlayerLengthTest, SurveyPlayerAndDecodingAgreeWithTheTool) {
     const LengthCase& c = GetParam();
     const QString mp3 = dir.filePath("song.mp3");
@@ -176,19 +142,6 @@ TEST_P(PlayerLengthTest, SurveyPlayerAndDecodingAgreeWithTheTool) {
     const LengthSurvey survey =
         surveyLength(bytes.size(), [&](qint64 at, qint64 n) { return bytes.mid(at, n); });
     EXPECT_EQ(survey.method, c.method);
-    if (survey.method != M::Scan) {
-        const LibraryView lib = libraryView(mp3);
-        ASSERT_TRUE(lib.opened);
-        EXPECT_EQ(survey.rate, lib.rate);
-        EXPECT_EQ(survey.channels, lib.channels);
-        EXPECT_EQ(survey.channelMode, int(lib.frame.mode));
-        const bool constant = lib.frame.vbr == MPG123_CBR && survey.method != M::VbriFrames;
-        EXPECT_EQ(survey.statedKbps, constant ? lib.frame.bitrate : 0);
-        if (c.libraryLength) {
-            EXPECT_EQ(survey.frames, lib.frames);
-            EXPECT_EQ(survey.samples, lib.samples);
-        }
-    }
 
     const QString raw = dir.filePath("raw.wav"), trimmed = dir.filePath("tool.wav"),
                   ours = dir.filePath("ours.wav");

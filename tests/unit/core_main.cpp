@@ -1,5 +1,6 @@
-#include <QCoreApplication>
 #include <gtest/gtest.h>
+
+#include <QCoreApplication>
 
 // Unit and integration tests need Qt Core (strings, files) but no display.
 int main(int argc, char** argv) {

@@ -4,7 +4,6 @@
 // the player to the file's real end, sample for sample, even where the count is an estimate.
 #include <gtest/gtest.h>
 
-#include <QFile>
 #include <QTemporaryDir>
 #include <algorithm>
 #include <cmath>

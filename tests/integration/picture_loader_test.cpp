@@ -4,7 +4,6 @@
 // names' unit test's.
 #include <gtest/gtest.h>
 
-#include <QFile>
 #include <QImage>
 #include <QTemporaryDir>
 

@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 #include <QMap>
-#include <QStringList>
 
 #include "controls/StreamEndRule.h"
 

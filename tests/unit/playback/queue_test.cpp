@@ -1,6 +1,5 @@
 // The title pane's paging, the ways rows enter and leave the queue with their quirks, the two
 // orders, and a queue longer than the directory store.
-#include <QFile>
 
 #include "PlaybackFixture.h"
 

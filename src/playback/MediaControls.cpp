@@ -67,8 +67,6 @@ void MediaControls::setVolume(double volume) {
     if (!F.Fading) F.SavedVolume = F.M.Volume;
 }
 
-ErrorReporter& MediaControls::errors() const { return F.C.errors; }
-
 bool MediaControls::canPlay() const { return F.M.SongPlaying || F.lstSongs.ListCount() > 0; }
 bool MediaControls::canPause() const { return F.M.SongPlaying; }
 bool MediaControls::canGoNext() const { return F.lstSongs.ListIndex() < F.lstSongs.ListCount() - 1; }

@@ -8,7 +8,6 @@
 
 namespace sonarium {
 
-class ErrorReporter;
 class Form1;
 
 // The song the player holds, as the desktop shows it.
@@ -50,8 +49,6 @@ public:
     bool canGoNext() const;
     bool canGoPrevious() const;
     MediaState state() const;
-    // Where a failure of a command that comes from outside the program is told.
-    ErrorReporter& errors() const;
 
     // Starts the selected song, or resumes a paused one; a playing song is left alone.
     void play();

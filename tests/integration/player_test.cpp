@@ -241,24 +241,15 @@ TEST_F(PlayerRunTest, SpeedVolumeAndPeakThroughTheSink) {
     EXPECT_EQ(h.peak.takeReading(), 0);
 }
 
-// A sound device that plays at real-time pace until its write number `failAt`, where it fails
-// for good, as a server that stops or a card that is unplugged.
-struct FailingDevice : AudioDevice {
+// A sound device that plays at real-time pace, as the null sink does, until its write number
+// `failAt`, where it fails for good, as a server that stops or a card that is unplugged.
+struct FailingDevice : NullSink {
     FailingDevice(int failAt, std::atomic<int>& writes) : failAt(failAt), writes(writes) {}
-    bool open(const AudioFormat& format) override { return pace.open(format); }
     bool write(const float* samples, int frames) override {
-        if (++writes >= failAt) return false;
-        pace.write(samples, frames);
-        return true;
+        return ++writes < failAt && NullSink::write(samples, frames);
     }
-    bool drain() override {
-        pace.drain();
-        return writes < failAt;
-    }
-    void reset() override { pace.reset(); }
-    void close() override { pace.close(); }
+    bool drain() override { return NullSink::drain() && writes < failAt; }
 
-    NullSink pace;
     int failAt;
     std::atomic<int>& writes;
 };

@@ -6,13 +6,13 @@
 #include <cstdint>
 #include <vector>
 
-#include "engine/audio/FallbackSink.h"
+#include "engine/audio/AudioSink.h"
 
 typedef struct _snd_pcm snd_pcm_t;
 
 namespace sonarium {
 
-class AlsaSink : public AudioDevice {
+class AlsaSink : public AudioSink {
 public:
     static constexpr unsigned kLatencyMicroseconds = 100000;
 

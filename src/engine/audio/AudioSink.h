@@ -18,9 +18,11 @@ public:
     virtual ~AudioSink() = default;
     // False when the device cannot take this format now.
     virtual bool open(const AudioFormat& format) = 0;
-    virtual void write(const float* interleaved, int frames) = 0;
+    // Both false when the device failed for good (a server that stops, a card unplugged); it
+    // need not have played any of the samples then. FallbackSink decides what follows.
+    virtual bool write(const float* interleaved, int frames) = 0;
     // Returns when everything written has been played.
-    virtual void drain() = 0;
+    virtual bool drain() = 0;
     // Drops what is buffered and not yet heard (stop, seek).
     virtual void reset() = 0;
     virtual void close() = 0;

@@ -20,15 +20,15 @@ void FallbackSink::fallBack() {
     fallback_.open(format_);
 }
 
-void FallbackSink::write(const float* interleaved, int frames) {
-    if (frames <= 0) return;
+bool FallbackSink::write(const float* interleaved, int frames) {
+    if (frames <= 0) return true;
     if (!lost_ && !device_->write(interleaved, frames)) fallBack();
-    if (lost_) fallback_.write(interleaved, frames);
+    return !lost_ || fallback_.write(interleaved, frames);
 }
 
-void FallbackSink::drain() {
+bool FallbackSink::drain() {
     if (!lost_ && !device_->drain()) fallBack();
-    if (lost_) fallback_.drain();
+    return !lost_ || fallback_.drain();
 }
 
 void FallbackSink::reset() {

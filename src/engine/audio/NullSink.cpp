@@ -17,8 +17,8 @@ bool NullSink::open(const AudioFormat& format) {
     return true;
 }
 
-void NullSink::write(const float*, int frames) {
-    if (!open_ || frames <= 0) return;
+bool NullSink::write(const float*, int frames) {
+    if (!open_ || frames <= 0) return true;
     // A writer that paused (or fell behind) underruns like a device: the new frames start now,
     // not at the end of a timeline that has already passed.
     const auto now = Clock::now();
@@ -28,10 +28,12 @@ void NullSink::write(const float*, int frames) {
     }
     framesSinceBase_ += frames;
     std::this_thread::sleep_until(playedUntil() - buffer_);
+    return true;
 }
 
-void NullSink::drain() {
+bool NullSink::drain() {
     if (open_) std::this_thread::sleep_until(playedUntil());
+    return true;
 }
 
 void NullSink::reset() {

@@ -18,9 +18,9 @@ public:
 
     bool open(const AudioFormat& format) override;
     // Waits until no more than the buffer's length of audio is still unplayed.
-    void write(const float* interleaved, int frames) override;
+    bool write(const float* interleaved, int frames) override;
     // Waits until everything written has played.
-    void drain() override;
+    bool drain() override;
     // Forgets what is unplayed: the next write starts a new timeline at once.
     void reset() override;
     void close() override;

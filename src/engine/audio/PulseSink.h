@@ -4,13 +4,13 @@
 // away mid-stream is reported to the FallbackSink around it.
 #include <chrono>
 
-#include "engine/audio/FallbackSink.h"
+#include "engine/audio/AudioSink.h"
 
 struct pa_simple;
 
 namespace sonarium {
 
-class PulseSink : public AudioDevice {
+class PulseSink : public AudioSink {
 public:
     static constexpr std::chrono::milliseconds kLatency{100};
 

@@ -1,7 +1,5 @@
 #include "ui/mpris/MprisPlayerAdaptor.h"
 
-#include "ui/views/ControlSync.h"
-
 namespace sonarium {
 
 MprisPlayerAdaptor::MprisPlayerAdaptor(QObject* parent, MediaControls& controls)
@@ -25,26 +23,14 @@ QVariantMap MprisPlayerAdaptor::metadataOf(const SongInfo& song) {
     return map;
 }
 
-void MprisPlayerAdaptor::setVolume(double volume) {
-    feed(controls_.errors(), [&] { controls_.setVolume(volume); });
-}
-void MprisPlayerAdaptor::Play() {
-    feed(controls_.errors(), [&] { controls_.play(); });
-}
-void MprisPlayerAdaptor::Pause() {
-    feed(controls_.errors(), [&] { controls_.pause(); });
-}
-void MprisPlayerAdaptor::PlayPause() {
-    feed(controls_.errors(), [&] { controls_.playPause(); });
-}
-void MprisPlayerAdaptor::Stop() {
-    feed(controls_.errors(), [&] { controls_.stop(); });
-}
-void MprisPlayerAdaptor::Next() {
-    feed(controls_.errors(), [&] { controls_.next(); });
-}
-void MprisPlayerAdaptor::Previous() {
-    feed(controls_.errors(), [&] { controls_.previous(); });
-}
+// Each command runs under the program's skip-on-error rule inside MediaControls, so no failure
+// reaches the bus's dispatch.
+void MprisPlayerAdaptor::setVolume(double volume) { controls_.setVolume(volume); }
+void MprisPlayerAdaptor::Play() { controls_.play(); }
+void MprisPlayerAdaptor::Pause() { controls_.pause(); }
+void MprisPlayerAdaptor::PlayPause() { controls_.playPause(); }
+void MprisPlayerAdaptor::Stop() { controls_.stop(); }
+void MprisPlayerAdaptor::Next() { controls_.next(); }
+void MprisPlayerAdaptor::Previous() { controls_.previous(); }
 
 }  // namespace sonarium

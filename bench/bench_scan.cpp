@@ -16,6 +16,9 @@
 // time counting, so the page cache favours neither; and, where the process may empty the
 // system's page cache (root), from the disk (cold), each run after the cache was emptied.
 // Ratio = scan / floor; the goal is under 3.
+//   sqlite3  the sqlite3 tool writing the records the scan made into a new library of the same
+//          schema, a transaction per folder as the scan commits them: what any program that
+//          keeps these records pays on top of reading the files, whatever else it does
 //
 // Then the walk alone on a wide tree: one folder holding N album folders of one song each,
 // scanned with sub-directories for N = 1,500 and 3,000. A walk that grows linearly with the
@@ -41,6 +44,7 @@
 #include "fixtures/Id3v1Block.h"
 #include "fixtures/Mp3Fixtures.h"
 #include "fixtures/RealPlayerProgram.h"
+#include "fixtures/ToolRunner.h"
 
 using namespace sonarium;
 using namespace sonarium::fixtures;
@@ -182,6 +186,39 @@ double scanFresh(const QString& base, const QString& name, QString& message, con
     return scan(QStringLiteral("%1/%2").arg(base, name), home, message);
 }
 
+bool writeFile(const QString& name, const QByteArray& bytes) {
+    QFile f(name);
+    return f.open(QIODevice::WriteOnly) && f.write(bytes) == bytes.size();
+}
+
+// The sqlite3 tool inserting the records of `library` into a new library of the same schema
+// and page size, on the write-ahead log, committing whenever the folder changes; -1 on failure.
+double sqliteInserts(const QString& library, const QString& dir) {
+    const QString query = QStringLiteral(
+        "SELECT CASE WHEN lag(Path) OVER (ORDER BY rowid) IS NOT Path AND rowid > 1 THEN 'COMMIT;BEGIN;' "
+        "ELSE '' END || 'INSERT INTO SongData VALUES(' || quote(Path) || ',' || quote(File) || ',' || "
+        "quote(\"Song Title\") || ',' || quote(Artist) || ',' || quote(Album) || ',' || quote(Comment) || "
+        "',' || quote(Genre) || ',' || quote(Duration) || ',' || quote(Year) || ',' || quote(Tempo) || ',' "
+        "|| quote(Lyricist) || ',' || quote(Composer) || ',' || quote(Key) || ',' || quote(\"Web Address\") "
+        "|| ',' || quote(\"E-Mail\") || ',' || quote(Info) || ',' || quote(\"Path\\File\") || ');' "
+        "FROM SongData ORDER BY rowid");
+    QByteArray schema, inserts;
+    const QString fresh = dir + QStringLiteral("/reference.db");
+    const QString schemaFile = dir + QStringLiteral("/schema.sql"),
+                  insertFile = dir + QStringLiteral("/inserts.sql");
+    if (fixtures::runTool({"sqlite3", library, ".schema"}, 60, &schema) != 0 ||
+        fixtures::runTool({"sqlite3", library, query}, 60, &inserts) != 0 ||
+        !writeFile(schemaFile, "PRAGMA page_size=1024;\n" + schema + "PRAGMA journal_mode=WAL;\n") ||
+        !writeFile(insertFile, "PRAGMA synchronous=NORMAL;\nBEGIN;\n" + inserts + "COMMIT;\n") ||
+        fixtures::runTool({"sqlite3", fresh, ".read " + schemaFile}) != 0)
+        return -1;
+    int status = -1;
+    const double ms = timeMs([&] {
+        status = fixtures::runTool({"sqlite3", fresh, ".read " + insertFile}, 60);
+    });
+    return status == 0 ? ms : -1;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -217,6 +254,11 @@ int main(int argc, char** argv) {
                 floor1, floor2);
     std::printf("warm scan        %8.1f ms  (%.4f ms a file)\n", scanned, scanned / count);
     std::printf("ratio warm       %8.2f  (goal < 3)\n", scanned / floor);
+    const QString library = base.filePath(QStringLiteral("Music-home/SonariumData.mdb"));
+    const double inserts = sqliteInserts(library, base.path());
+    std::printf("sqlite3 inserts  %8.1f ms  (the same records by the sqlite3 tool, a commit per folder)\n",
+                inserts);
+    std::printf("ratio warm       %8.2f  against floor + sqlite3 inserts\n", scanned / (floor + inserts));
     if (dropCaches()) {
         const double coldFloor = floorLoop(files);
         dropCaches();

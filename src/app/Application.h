@@ -14,6 +14,7 @@
 #include "engine/LinuxVolumes.h"
 #include "engine/QtPictureLoader.h"
 #include "engine/StandIns.h"
+#include "engine/encoder/LameEncoder.h"
 #include "engine/audio/SoundProcessor.h"
 #include "engine/data/SqliteDataControl.h"
 #include "engine/player/Mp3Play.h"
@@ -58,7 +59,7 @@ private:
     ToneSettings tone_;
     PeakLevel peakLevel_;
     Mp3Play mp3_, mp32_;
-    StandInEncoder encoder_;
+    LameEncoder encoder_{loop_};
     StandInCdReader cd_;
     EngineMixer mixer_;
     EnginePeakMeter peak_;

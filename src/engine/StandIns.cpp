@@ -14,7 +14,6 @@ void announce(const char* component) {
 
 }  // namespace
 
-StandInEncoder::StandInEncoder() { announce("the MP3 encoder"); }
 StandInCdReader::StandInCdReader() { announce("the CD reader"); }
 StandInProcesses::StandInProcesses() { announce("starting outside programs"); }
 

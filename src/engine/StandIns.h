@@ -1,26 +1,13 @@
 #pragma once
 // Components that the program can run with before the real engines exist: each does nothing,
 // or fails the way a missing device fails, so that every rule of the program still holds
-// (no CD drive, no encoder, no database). Each says once on stderr, when it is made,
+// (no CD drive, no outside program). Each says once on stderr, when it is made,
 // that it is only a stand-in.
 #include "controls/CdReader.h"
 #include "controls/ChildProcess.h"
 #include "controls/DataControl.h"
-#include "controls/Mp3Encoder.h"
 
 namespace sonarium {
-
-// Refuses every job, so a run ends at once with the program's own "open error" message.
-class StandInEncoder : public Mp3Encoder {
-public:
-    StandInEncoder();
-    void setEncoderBitRate(double) override {}
-    void setEncoderSampleRate(double) override {}
-    std::int16_t OpenFiles(const QString&, const QString&) override { return 1; }
-    std::int32_t EncodeTotal() override { return 0; }
-    void StartEncoding() override {}
-    void StopEncoding() override {}
-};
 
 // Ready, with no drives and so no disc.
 class StandInCdReader : public CdReader {

@@ -1,0 +1,147 @@
+#include "engine/encoder/LameEncoder.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <lame/lame.h>
+#include <sndfile.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <functional>
+#include <vector>
+
+namespace sonarium {
+
+struct LameEncoder::Job {
+    SNDFILE* wav = nullptr;
+    SF_INFO info{};
+    lame_global_flags* lame = nullptr;
+    QByteArray target;
+    ~Job() {
+        if (wav) sf_close(wav);
+        if (lame) lame_close(lame);
+    }
+};
+
+namespace {
+
+constexpr int BlockFrames = 4096;
+
+// The WAV read and encoded into `out`, block by block; false when writing failed.
+bool encode(LameEncoder::Job& job, std::FILE* out, const std::atomic<bool>& stop,
+            const std::function<void(std::int64_t)>& progress) {
+    const int channels = job.info.channels;
+    std::vector<float> pcm(std::size_t(BlockFrames) * std::size_t(channels));
+    std::vector<float> left(BlockFrames), right(BlockFrames);
+    std::vector<unsigned char> mp3(std::size_t(1.25 * BlockFrames + 7200));
+    std::int64_t done = 0;
+    while (!stop) {
+        const sf_count_t n = sf_readf_float(job.wav, pcm.data(), BlockFrames);
+        if (n <= 0) break;
+        for (sf_count_t i = 0; i < n; ++i) {
+            // LAME's float input is in the 16-bit range.
+            left[std::size_t(i)] = pcm[std::size_t(i * channels)] * 32768.0f;
+            right[std::size_t(i)] = pcm[std::size_t(i * channels + (channels > 1 ? 1 : 0))] * 32768.0f;
+        }
+        const int bytes = lame_encode_buffer_float(job.lame, left.data(), right.data(), int(n), mp3.data(),
+                                                   int(mp3.size()));
+        if (bytes < 0 || std::fwrite(mp3.data(), 1, std::size_t(bytes), out) != std::size_t(bytes)) return false;
+        progress(done += n);
+    }
+    const int bytes = lame_encode_flush(job.lame, mp3.data(), int(mp3.size()));
+    if (bytes < 0 || std::fwrite(mp3.data(), 1, std::size_t(bytes), out) != std::size_t(bytes)) return false;
+    if (std::fflush(out) != 0) return false;
+    // The Info frame goes over the first frame that LAME left for it.
+    lame_mp3_tags_fid(job.lame, out);
+    return std::fflush(out) == 0;
+}
+
+}  // namespace
+
+LameEncoder::LameEncoder(EventLoop& loop) : loop_(loop) {}
+
+LameEncoder::~LameEncoder() {
+    StopEncoding();
+    finishWorker();
+    alive_.reset();
+}
+
+void LameEncoder::setEncoderBitRate(double bitRate) { kbps_ = int(bitRate >= 1000 ? bitRate / 1000 : bitRate); }
+
+std::int16_t LameEncoder::OpenFiles(const QString& wavFile, const QString& mp3File) {
+    prepared_.reset();
+    total_ = 0;
+    if (running_) return 1;
+    auto job = std::make_unique<Job>();
+    const QByteArray source = QFile::encodeName(wavFile);
+    job->wav = sf_open(source.constData(), SFM_READ, &job->info);
+    if (!job->wav || (job->info.format & SF_FORMAT_TYPEMASK) != SF_FORMAT_WAV || job->info.frames <= 0 ||
+        job->info.channels < 1 || job->info.channels > 2)
+        return 1;
+    // The target is made when the job starts; its folder must take it, and it must not be
+    // the source or a folder.
+    const QFileInfo target(mp3File);
+    const QByteArray folder = QFile::encodeName(target.absolutePath());
+    if (mp3File.isEmpty() || target.isDir() || ::access(folder.constData(), W_OK) != 0 ||
+        (target.exists() && (::access(QFile::encodeName(mp3File).constData(), W_OK) != 0 ||
+                             target.canonicalFilePath() == QFileInfo(wavFile).canonicalFilePath())))
+        return 1;
+    job->target = QFile::encodeName(mp3File);
+    job->lame = lame_init();
+    if (!job->lame) return 1;
+    lame_set_num_channels(job->lame, job->info.channels);
+    lame_set_in_samplerate(job->lame, job->info.samplerate);
+    if (sampleRate_ > 0) lame_set_out_samplerate(job->lame, sampleRate_);
+    lame_set_mode(job->lame, job->info.channels == 1 ? MONO : JOINT_STEREO);
+    lame_set_VBR(job->lame, vbr_off);
+    lame_set_brate(job->lame, kbps_);
+    lame_set_quality(job->lame, 2);
+    lame_set_bWriteVbrTag(job->lame, 1);
+    if (lame_init_params(job->lame) < 0) return 1;
+    total_ = std::int32_t(std::min<sf_count_t>(job->info.frames, INT32_MAX));
+    prepared_ = std::move(job);
+    return 0;
+}
+
+void LameEncoder::StartEncoding() {
+    if (!prepared_) return;
+    finishWorker();
+    stop_ = false;
+    running_ = true;
+    std::weak_ptr<int> alive = alive_;
+    auto post = [this, alive](std::function<void()> call) {
+        loop_.post([alive, call = std::move(call)] {
+            if (alive.lock()) call();
+        });
+    };
+    worker_ = std::thread([this, job = std::move(prepared_), total = total_, post] {
+        std::int64_t posted = 0;
+        auto progress = [&](std::int64_t done) {
+            // At each whole per cent: often enough for the bar, never more than a hundred times.
+            if (done * 100 / std::max<std::int64_t>(total, 1) <= posted * 100 / std::max<std::int64_t>(total, 1) &&
+                done < total)
+                return;
+            posted = done;
+            const auto value = std::int32_t(std::min<std::int64_t>(done, total));
+            post([this, value] {
+                if (onEncodeProgress) onEncodeProgress(value);
+            });
+        };
+        if (std::FILE* out = std::fopen(job->target.constData(), "w+b")) {
+            encode(*job, out, stop_, progress);
+            std::fclose(out);
+        }
+        running_ = false;
+        post([this] {
+            if (onEncodeFinished) onEncodeFinished();
+        });
+    });
+}
+
+void LameEncoder::StopEncoding() { stop_ = true; }
+
+void LameEncoder::finishWorker() {
+    if (worker_.joinable()) worker_.join();
+}
+
+}  // namespace sonarium

@@ -1,11 +1,11 @@
 #include "engine/encoder/LameEncoder.h"
 
-#include <QFile>
-#include <QFileInfo>
 #include <lame/lame.h>
 #include <sndfile.h>
 #include <unistd.h>
 
+#include <QFile>
+#include <QFileInfo>
 #include <cstdio>
 #include <functional>
 #include <vector>
@@ -28,14 +28,14 @@ namespace {
 constexpr int BlockFrames = 4096;
 
 // The WAV read and encoded into `out`, block by block; false when writing failed.
-bool encode(LameEncoder::Job& job, std::FILE* out, const std::atomic<bool>& stop,
+bool encode(LameEncoder::Job& job, std::FILE* out, const WorkerJob& worker,
             const std::function<void(std::int64_t)>& progress) {
     const int channels = job.info.channels;
     std::vector<float> pcm(std::size_t(BlockFrames) * std::size_t(channels));
     std::vector<float> left(BlockFrames), right(BlockFrames);
     std::vector<unsigned char> mp3(std::size_t(1.25 * BlockFrames + 7200));
     std::int64_t done = 0;
-    while (!stop) {
+    while (!worker.stopRequested()) {
         const sf_count_t n = sf_readf_float(job.wav, pcm.data(), BlockFrames);
         if (n <= 0) break;
         for (sf_count_t i = 0; i < n; ++i) {
@@ -45,7 +45,8 @@ bool encode(LameEncoder::Job& job, std::FILE* out, const std::atomic<bool>& stop
         }
         const int bytes = lame_encode_buffer_float(job.lame, left.data(), right.data(), int(n), mp3.data(),
                                                    int(mp3.size()));
-        if (bytes < 0 || std::fwrite(mp3.data(), 1, std::size_t(bytes), out) != std::size_t(bytes)) return false;
+        if (bytes < 0 || std::fwrite(mp3.data(), 1, std::size_t(bytes), out) != std::size_t(bytes))
+            return false;
         progress(done += n);
     }
     const int bytes = lame_encode_flush(job.lame, mp3.data(), int(mp3.size()));
@@ -58,20 +59,18 @@ bool encode(LameEncoder::Job& job, std::FILE* out, const std::atomic<bool>& stop
 
 }  // namespace
 
-LameEncoder::LameEncoder(EventLoop& loop) : loop_(loop) {}
+LameEncoder::LameEncoder(EventLoop& loop) : job_(loop) {}
 
-LameEncoder::~LameEncoder() {
-    StopEncoding();
-    finishWorker();
-    alive_.reset();
+LameEncoder::~LameEncoder() = default;
+
+void LameEncoder::setEncoderBitRate(double bitRate) {
+    kbps_ = int(bitRate >= 1000 ? bitRate / 1000 : bitRate);
 }
-
-void LameEncoder::setEncoderBitRate(double bitRate) { kbps_ = int(bitRate >= 1000 ? bitRate / 1000 : bitRate); }
 
 std::int16_t LameEncoder::OpenFiles(const QString& wavFile, const QString& mp3File) {
     prepared_.reset();
     total_ = 0;
-    if (running_) return 1;
+    if (job_.running()) return 1;
     auto job = std::make_unique<Job>();
     const QByteArray source = QFile::encodeName(wavFile);
     job->wav = sf_open(source.constData(), SFM_READ, &job->info);
@@ -105,43 +104,29 @@ std::int16_t LameEncoder::OpenFiles(const QString& wavFile, const QString& mp3Fi
 
 void LameEncoder::StartEncoding() {
     if (!prepared_) return;
-    finishWorker();
-    stop_ = false;
-    running_ = true;
-    std::weak_ptr<int> alive = alive_;
-    auto post = [this, alive](std::function<void()> call) {
-        loop_.post([alive, call = std::move(call)] {
-            if (alive.lock()) call();
-        });
-    };
-    worker_ = std::thread([this, job = std::move(prepared_), total = total_, post] {
-        std::int64_t posted = 0;
-        auto progress = [&](std::int64_t done) {
-            // At each whole per cent: often enough for the bar, never more than a hundred times.
-            if (done * 100 / std::max<std::int64_t>(total, 1) <= posted * 100 / std::max<std::int64_t>(total, 1) &&
-                done < total)
-                return;
-            posted = done;
-            const auto value = std::int32_t(std::min<std::int64_t>(done, total));
-            post([this, value] {
-                if (onEncodeProgress) onEncodeProgress(value);
-            });
-        };
-        if (std::FILE* out = std::fopen(job->target.constData(), "w+b")) {
-            encode(*job, out, stop_, progress);
-            std::fclose(out);
-        }
-        running_ = false;
-        post([this] {
+    // The worker owns the job; the shared pointer lets the work be copied into its thread.
+    std::shared_ptr<Job> job = std::move(prepared_);
+    const std::int32_t total = total_;
+    job_.start(
+        [this, job, total] {
+            ProgressSteps steps(total, 100);
+            auto progress = [&](std::int64_t done) {
+                if (!steps.next(done)) return;
+                const auto value = std::int32_t(std::min<std::int64_t>(done, total));
+                job_.post([this, value] {
+                    if (onEncodeProgress) onEncodeProgress(value);
+                });
+            };
+            if (std::FILE* out = std::fopen(job->target.constData(), "w+b")) {
+                encode(*job, out, job_, progress);
+                std::fclose(out);
+            }
+        },
+        [this] {
             if (onEncodeFinished) onEncodeFinished();
         });
-    });
 }
 
-void LameEncoder::StopEncoding() { stop_ = true; }
-
-void LameEncoder::finishWorker() {
-    if (worker_.joinable()) worker_.join();
-}
+void LameEncoder::StopEncoding() { job_.requestStop(); }
 
 }  // namespace sonarium

@@ -8,19 +8,17 @@
 // Threading: every call is for the event loop's thread. The worker posts EncodeProgress at
 // each whole per cent and EncodeFinished once per started job, also after StopEncoding.
 #include <QString>
-#include <atomic>
 #include <memory>
-#include <thread>
 
-#include "controls/EventLoop.h"
 #include "controls/Mp3Encoder.h"
+#include "engine/jobs/WorkerJob.h"
 
 namespace sonarium {
 
 class LameEncoder : public Mp3Encoder {
 public:
     explicit LameEncoder(EventLoop& loop);
-    ~LameEncoder() override;
+    ~LameEncoder() override;  // stops the job and waits for its worker
 
     // kbit/s; a value in bit/s (the start-up's 128000) is taken as such.
     void setEncoderBitRate(double bitRate) override;
@@ -35,18 +33,11 @@ public:
     struct Job;  // the prepared job: the open WAV and LAME's set-up
 
 private:
-    void finishWorker();
-
-    EventLoop& loop_;
     int kbps_ = 128;
     int sampleRate_ = 0;
     std::int32_t total_ = 0;
     std::unique_ptr<Job> prepared_;
-    std::thread worker_;
-    std::atomic<bool> stop_{false};
-    std::atomic<bool> running_{false};  // from StartEncoding until the worker is done
-    // Posted calls run only while this lives.
-    std::shared_ptr<int> alive_ = std::make_shared<int>(0);
+    WorkerJob job_;  // last: it goes first, stopping the worker before what the worker uses
 };
 
 }  // namespace sonarium

@@ -41,6 +41,28 @@ Bytes tag(std::string_view title) {
     return b + Bytes{7, 17};
 }
 
+// Little-endian numbers of `n` bytes.
+Bytes le(std::uint32_t v, int n) {
+    Bytes b;
+    for (int i = 0; i < n; ++i) b.push_back(std::uint8_t(v >> (8 * i)));
+    return b;
+}
+
+// A WAV of `frames` sample frames of a ramp, whose data chunk claims `claimed` bytes (0: the truth).
+Bytes wav(int formatTag, int channels, std::uint32_t rate, int bits, int frames, std::uint32_t claimed = 0) {
+    const int align = channels * bits / 8;
+    Bytes fmt = le(std::uint32_t(formatTag), 2) + le(std::uint32_t(channels), 2) + le(rate, 4) +
+                le(rate * std::uint32_t(align), 4) + le(std::uint32_t(align), 2) + le(std::uint32_t(bits), 2);
+    if (formatTag == 0xFFFE)  // valid bits, channel mask, and the PCM sub-format's GUID
+        fmt = fmt + le(22, 2) + le(std::uint32_t(bits), 2) + le(3, 4) +
+              bytes("\1\0\0\0\0\0\x10\0\x80\0\0\xAA\0\x38\x9B\x71"sv);
+    Bytes data(std::size_t(frames * align));
+    for (std::size_t i = 0; i < data.size(); ++i) data[i] = std::uint8_t(i * 7);
+    const Bytes body = bytes("WAVEfmt "sv) + le(std::uint32_t(fmt.size()), 4) + fmt + bytes("data"sv) +
+                       le(claimed ? claimed : std::uint32_t(data.size()), 4) + data;
+    return bytes("RIFF"sv) + le(std::uint32_t(body.size()), 4) + body;
+}
+
 }  // namespace
 
 std::vector<Seed> seedCorpus() {
@@ -78,4 +100,18 @@ std::vector<Seed> pathSeeds() {
             {"deep", bytes(deep)}};
 }
 
+std::vector<Seed> wavSeeds() {
+    Bytes cut = wav(1, 2, 44100, 16, 100);
+    cut.resize(30);
+    Bytes other = wav(1, 1, 8000, 8, 50);
+    std::copy_n("AVI ", 4, other.begin() + 8);
+    return {{"pcm16", wav(1, 2, 44100, 16, 2000)},
+            {"pcm8", wav(1, 1, 8000, 8, 800)},
+            {"pcm24", wav(1, 1, 48000, 24, 1000)},
+            {"float", wav(3, 2, 22050, 32, 1000)},
+            {"extensible", wav(0xFFFE, 2, 44100, 16, 1000)},
+            {"lying", wav(1, 2, 44100, 16, 500, 0x7FFFFFF0)},
+            {"cut", cut},
+            {"other", other}};
+}
 }  // namespace sonarium::fuzz

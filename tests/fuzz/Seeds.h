@@ -21,5 +21,8 @@ std::vector<Seed> seedCorpus();
 // File names: case that differs, dots and doubled slashes, a looping symlink, a new name, and
 // a name of 50,000 components.
 std::vector<Seed> pathSeeds();
+// WAV files: 16-bit stereo, 8-bit and 24-bit mono, float, WAVE_FORMAT_EXTENSIBLE, one whose
+// header claims more data than it holds, one cut inside its header, and a RIFF of another kind.
+std::vector<Seed> wavSeeds();
 
 }  // namespace sonarium::fuzz

@@ -6,6 +6,8 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <algorithm>
+#include <cmath>
 #include <cstdio>
 #include <functional>
 #include <vector>
@@ -27,6 +29,14 @@ namespace {
 
 constexpr int BlockFrames = 4096;
 
+// LAME's float input is in the 16-bit range. A float WAV can hold anything, and LAME's
+// psychoacoustic model stops the process on an infinity or a NaN: those become silence, and
+// samples past full scale are clipped as any player would.
+float toLame(float sample) {
+    if (!std::isfinite(sample)) return 0.0f;
+    return std::clamp(sample, -1.0f, 1.0f) * 32767.0f;
+}
+
 // The WAV read and encoded into `out`, block by block; false when writing failed.
 bool encode(LameEncoder::Job& job, std::FILE* out, const WorkerJob& worker,
             const std::function<void(std::int64_t)>& progress) {
@@ -39,9 +49,8 @@ bool encode(LameEncoder::Job& job, std::FILE* out, const WorkerJob& worker,
         const sf_count_t n = sf_readf_float(job.wav, pcm.data(), BlockFrames);
         if (n <= 0) break;
         for (sf_count_t i = 0; i < n; ++i) {
-            // LAME's float input is in the 16-bit range.
-            left[std::size_t(i)] = pcm[std::size_t(i * channels)] * 32768.0f;
-            right[std::size_t(i)] = pcm[std::size_t(i * channels + (channels > 1 ? 1 : 0))] * 32768.0f;
+            left[std::size_t(i)] = toLame(pcm[std::size_t(i * channels)]);
+            right[std::size_t(i)] = toLame(pcm[std::size_t(i * channels + (channels > 1 ? 1 : 0))]);
         }
         const int bytes = lame_encode_buffer_float(job.lame, left.data(), right.data(), int(n), mp3.data(),
                                                    int(mp3.size()));
@@ -55,6 +64,17 @@ bool encode(LameEncoder::Job& job, std::FILE* out, const WorkerJob& worker,
     // The Info frame goes over the first frame that LAME left for it.
     lame_mp3_tags_fid(job.lame, out);
     return std::fflush(out) == 0;
+}
+
+// A RIFF (or RF64) WAVE file by its first twelve bytes. libsndfile would also take MP3 and
+// other files, and its MPEG reader talks on stderr about each file that is none.
+bool looksLikeWav(const QString& name) {
+    QFile f(name);
+    if (!f.open(QIODevice::ReadOnly)) return false;
+    const QByteArray head = f.read(12);
+    return head.size() == 12 &&
+           (head.startsWith("RIFF") || head.startsWith("RIFX") || head.startsWith("RF64")) &&
+           head.mid(8) == "WAVE";
 }
 
 }  // namespace
@@ -71,6 +91,7 @@ std::int16_t LameEncoder::OpenFiles(const QString& wavFile, const QString& mp3Fi
     prepared_.reset();
     total_ = 0;
     if (job_.running()) return 1;
+    if (!looksLikeWav(wavFile)) return 1;
     auto job = std::make_unique<Job>();
     const QByteArray source = QFile::encodeName(wavFile);
     job->wav = sf_open(source.constData(), SFM_READ, &job->info);
@@ -94,7 +115,7 @@ std::int16_t LameEncoder::OpenFiles(const QString& wavFile, const QString& mp3Fi
     lame_set_mode(job->lame, job->info.channels == 1 ? MONO : JOINT_STEREO);
     lame_set_VBR(job->lame, vbr_off);
     lame_set_brate(job->lame, kbps_);
-    lame_set_quality(job->lame, 2);
+    lame_set_quality(job->lame, 3);  // the lame tool's own default: its quality at its speed
     lame_set_bWriteVbrTag(job->lame, 1);
     if (lame_init_params(job->lame) < 0) return 1;
     total_ = std::int32_t(std::min<sf_count_t>(job->info.frames, INT32_MAX));

@@ -1,51 +1,15 @@
 // Arbitrary bytes as the WAV of an encoding job: the encoder either refuses the job, leaving no
 // file behind, or encodes what the file holds to an MP3 and finishes once.
 #include <QFile>
-#include <condition_variable>
-#include <mutex>
-#include <vector>
 
 #include "Fuzz.h"
 #include "engine/encoder/LameEncoder.h"
-
-namespace {
+#include "fixtures/ThreadedTestLoop.h"
 
 using namespace sonarium;
 
-// Runs posted calls on the fuzzing thread while it waits; there are no timers here.
-class PostedCalls : public EventLoop {
-public:
-    std::int64_t now() const override { return 0; }
-    QDateTime wallClock() const override { return {}; }
-    void post(Task fn) override {
-        std::lock_guard lock(mutex_);
-        calls_.push_back(std::move(fn));
-        posted_.notify_one();
-    }
-    TimerId startTimer(int, Task, bool) override { return 0; }
-    void stopTimer(TimerId) override {}
-    void doEvents() override {}
-    void waitUntil(const std::function<bool()>& done) override {
-        while (!done()) {
-            std::unique_lock lock(mutex_);
-            posted_.wait(lock, [&] { return !calls_.empty(); });
-            std::vector<Task> calls;
-            calls.swap(calls_);
-            lock.unlock();
-            for (Task& call : calls) call();
-        }
-    }
-
-private:
-    std::mutex mutex_;
-    std::condition_variable posted_;
-    std::vector<Task> calls_;
-};
-
-}  // namespace
-
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
-    static PostedCalls loop;
+    static fixtures::ThreadedTestLoop loop{std::chrono::seconds(30)};
     static LameEncoder encoder{loop};
     const QString wav = fuzz::scratchFile(data, size), mp3 = wav + QStringLiteral(".mp3");
     QFile::remove(mp3);

@@ -7,7 +7,7 @@ SONARIUM_BUILD=${SONARIUM_BUILD:-$SONARIUM_SRC/build}
 # What building and running need.
 BUILD_PACKAGES=(cmake ninja-build g++ pkg-config qt6-base-dev libgl-dev libegl-dev
                 libmpg123-dev libsoundtouch-dev libpulse-dev libasound2-dev libsqlite3-dev
-                libmp3lame-dev libsndfile1-dev libcdio-dev libcdio-paranoia-dev
+                libmp3lame-dev libsndfile1-dev libcdio-dev libcdio-paranoia-dev lame
                 libgtest-dev fonts-dejavu-core xdg-utils)
 # What the tests and benchmarks need beyond that: reference tools, fixtures' encoder, fuzzing.
 TEST_PACKAGES=(xvfb xauth mpg123 lame cd-paranoia id3v2 clang libclang-rt-14-dev dbus playerctl sqlite3

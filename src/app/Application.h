@@ -14,10 +14,11 @@
 #include "engine/LinuxVolumes.h"
 #include "engine/QtPictureLoader.h"
 #include "engine/StandIns.h"
-#include "engine/encoder/LameEncoder.h"
 #include "engine/audio/SoundProcessor.h"
 #include "engine/data/SqliteDataControl.h"
+#include "engine/encoder/LameEncoder.h"
 #include "engine/player/Mp3Play.h"
+#include "engine/process/PosixChildProcesses.h"
 #include "playback/MediaControls.h"
 #include "shell/Program.h"
 #include "ui/QtDesktop.h"
@@ -64,7 +65,7 @@ private:
     EngineMixer mixer_;
     EnginePeakMeter peak_;
     SqliteDataControl data_;
-    StandInProcesses processes_;
+    PosixChildProcesses processes_;
     Components components_;
     Program program_;
     Views views_;

@@ -15,6 +15,5 @@ void announce(const char* component) {
 }  // namespace
 
 StandInCdReader::StandInCdReader() { announce("the CD reader"); }
-StandInProcesses::StandInProcesses() { announce("starting outside programs"); }
 
 }  // namespace sonarium

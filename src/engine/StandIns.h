@@ -4,7 +4,6 @@
 // (no CD drive, no outside program). Each says once on stderr, when it is made,
 // that it is only a stand-in.
 #include "controls/CdReader.h"
-#include "controls/ChildProcess.h"
 #include "controls/DataControl.h"
 
 namespace sonarium {
@@ -26,16 +25,6 @@ public:
     void StopExtract() override {}
     void OpenTray() override {}
     void CloseTray() override {}
-};
-
-// Starts nothing.
-class StandInProcesses : public ChildProcesses {
-public:
-    StandInProcesses();
-    std::int64_t Start(const QString&, const QString&, bool) override { return 0; }
-    int WaitForSingleObject(std::int64_t, int) override { return 0; }
-    void TerminateProcess(std::int64_t, int) override {}
-    void CloseHandle(std::int64_t) override {}
 };
 
 }  // namespace sonarium

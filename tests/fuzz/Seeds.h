@@ -21,5 +21,8 @@ std::vector<Seed> seedCorpus();
 // File names: case that differs, dots and doubled slashes, a looping symlink, a new name, and
 // a name of 50,000 components.
 std::vector<Seed> pathSeeds();
+// CD image descriptions, each read as a .cue and as a .toc next to disc.bin: audio tracks with
+// gaps and a data track; a missing file, tracks backwards and past the data; nonsense.
+std::vector<Seed> cueSeeds();
 
 }  // namespace sonarium::fuzz

@@ -255,7 +255,8 @@ std::int16_t CdioCdReader::ExtractTrack(std::int16_t number, const QString& file
                 });
             };
             (job->exact ? copyImage : readDrive)(*job, job_, progress);
-            // The handle and the file go with the job, on the worker.
+            // The WAV's header gets its sizes before the finish is posted; the handle goes with
+            // the job when the worker ends.
             job->wav.close();
         },
         [this] {

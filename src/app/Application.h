@@ -1,7 +1,7 @@
 #pragma once
 // Builds the real program: the Qt event loop, dialogs and desktop, the picture loader, the
-// mounted volumes and the components (stand-ins until their engines land), the program's own
-// units, and the windows that mirror them. No singletons: each part is handed what it needs.
+// mounted volumes and the components, the program's own units, and the windows that mirror
+// them. No singletons: each part is handed what it needs.
 // SIGTERM, SIGINT and SIGHUP save the settings and end the program at once, whatever it is
 // doing; the window's own close keeps its wait for the song.
 #include <QStringList>
@@ -13,8 +13,8 @@
 #include "engine/EnginePeakMeter.h"
 #include "engine/LinuxVolumes.h"
 #include "engine/QtPictureLoader.h"
-#include "engine/StandIns.h"
 #include "engine/audio/SoundProcessor.h"
+#include "engine/cd/CdioCdReader.h"
 #include "engine/data/SqliteDataControl.h"
 #include "engine/encoder/LameEncoder.h"
 #include "engine/player/Mp3Play.h"
@@ -61,7 +61,8 @@ private:
     PeakLevel peakLevel_;
     Mp3Play mp3_, mp32_;
     LameEncoder encoder_{loop_};
-    StandInCdReader cd_;
+    // CD images named in SONARIUM_CD_IMAGES stand beside the drives.
+    CdioCdReader cd_{loop_, qEnvironmentVariable("SONARIUM_CD_IMAGES")};
     EngineMixer mixer_;
     EnginePeakMeter peak_;
     SqliteDataControl data_;

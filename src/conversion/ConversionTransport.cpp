@@ -3,12 +3,9 @@
 
 namespace sonarium {
 
-// These land with the conversion work. Until then the CD and WAV modes start nothing and
-// "MP3 to WAV" decodes without asking about an existing target.
+// The external encoder lands next.
 void Form1::CheckForBlade() {}
 
-void Form1::ConversionPlay() {}
-
-bool Form1::Mp3ToWavTargetOk() { return true; }
+void Form1::EncodeBlade(const QString&, QString&, const QString&) {}
 
 }  // namespace sonarium

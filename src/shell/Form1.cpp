@@ -42,6 +42,10 @@ void Form1::wireHandlers() {
     BtnFade.onMouseDown = [this](int b, int s, double x, double y) { BtnFade_MouseDown(b, s, x, y); };
     BtnFade.onMouseUp = [this](int b, int s, double x, double y) { BtnFade_MouseUp(b, s, x, y); };
     C.mp3.onStreamEnd = [this] { MP3_StreamEnd(); };
+    C.cd.onExtractProgress = [this](std::int32_t perMille) { ACD_ExtractProgress(perMille); };
+    C.cd.onExtractFinished = [this] { ACD_ExtractFinished(); };
+    C.encoder.onEncodeProgress = [this](std::int32_t done) { Mp3Enc_EncodeProgress(done); };
+    C.encoder.onEncodeFinished = [this] { Mp3Enc_EncodeFinished(); };
     lstSongs.onClick = [this] { lstSongs_Click(); };
 
     chkLoop.onClick = [this] { chkLoop_Click(); };

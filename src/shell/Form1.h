@@ -245,8 +245,27 @@ public:
     void WriteKaraoke();                    // ends a karaoke recording
     void KaraokeFrame(std::int32_t frame);  // records and follows karaoke points
     void CheckForBlade();                   // the external encoder's stop question
-    void ConversionPlay();                  // Play in the CD and WAV conversion modes
     bool Mp3ToWavTargetOk();                // the overwrite question of MP3 to WAV
+
+    // ---- Conversion: runs ----
+    void ConversionPlay();  // Play in the CD and WAV conversion modes
+    void WavToMp3Play();
+    void CdPlay();
+    // False when the encoder refused the job, which ends the run.
+    bool StartInternalEncoder(const QString& wav, const QString& mp3);
+    void EncodeBlade(const QString& dir, QString& srcFile, const QString& dstFile);
+    void EncodingShown();
+    // Selects the next row and starts its job, unless the run was stopped or this was the last.
+    bool SelectNextRow();
+    void EndOfEncodingRun();
+    void ACD_ExtractProgress(std::int32_t perMille);
+    void ACD_ExtractFinished();
+    void Mp3Enc_EncodeProgress(std::int32_t done);
+    void Mp3Enc_EncodeFinished();
+    void ShowLamp(bool working);
+    double ClockSeconds() const;
+    // CurrentDir & title & track number "00" & extension.
+    QString TrackFileName(const QString& extension) const;
     // The mini player's share of loading and the transport.
     void MiniShowSongLength();
     void MiniShowChannels(std::int16_t channelMode);
@@ -272,6 +291,9 @@ public:
     QString CurrentDir;
     QString LastDir;
     std::int32_t BarWidth = 0;
+    std::int16_t CurrentTrack = 0, ReadRetries = 0;
+    double ExtractStart = 0;
+    std::int32_t EncodeStep = 0;
     std::int32_t EncoderBitRate = 0, EncoderSampleRate = 0;
     bool SearchRunning = false;
     QStringList Titles;  // 0-based here; entry i is the label text source of Titles(i + 1)

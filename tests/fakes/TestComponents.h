@@ -10,7 +10,7 @@
 #include "FakePictureLoader.h"
 #include "FakePlayer.h"
 #include "FakeVolumes.h"
-#include "IdleJobs.h"
+#include "FakeConversion.h"
 #include "ScriptedDialogs.h"
 #include "VirtualEventLoop.h"
 #include "controls/Components.h"
@@ -25,12 +25,12 @@ struct TestComponents {
     FakeVolumes volumes;
     FakePlayer mp3{loop};
     FakePlayer mp32{loop};
-    IdleEncoder encoder;
-    IdleCdReader cd;
+    FakeEncoder encoder{loop};
+    FakeCdReader cd{loop};
     FakeMixer mixer;
     FakePeakMeter peak;
     FakeDataControl data;
-    IdleProcesses processes;
+    FakeProcesses processes;
     CollectedErrors errors;
     QString commandLine;
     QString startDir;

@@ -1,0 +1,141 @@
+// Conversion runs on the fake encoder and CD reader: the chain of jobs down the queue, the
+// six-second rule with its six retries and double stop, Stop in each state, the end of a run,
+// the bar's numbers and the messages of failed starts.
+#include <QDir>
+
+#include "ProgramFixture.h"
+
+namespace sonarium {
+namespace {
+
+class ConversionRun : public ProgramFixture {
+protected:
+    void SetUp() override {
+        ProgramFixture::SetUp();
+        program().Main();
+        tc.dialogs.clear();
+        tc.dialogs.setAutoAnswerOk(true);
+        form1().CurrentDir = path("") + "/";
+        form1().mnuInternal.setChecked(true);
+        calls();
+    }
+    // A CD mode with `tracks` rows, as the CD's listing spells them.
+    void cdMode(MenuItem& mode, int tracks) {
+        mode.setChecked(true);
+        for (int t = 1; t <= tracks; ++t)
+            form1().lstSongs.AddItem(QString::asprintf(" Track %02d \r 3:5 Mns", t));
+    }
+    void play() { form1().BtnPlay.MouseUp(LeftButton, 0, 0, 0); }
+    void stop() { form1().BtnStop.MouseUp(LeftButton, 0, 0, 0); }
+    // The components' calls since the last look, encoder's and reader's in one list.
+    QStringList calls() {
+        QStringList all = tc.cd.calls() + tc.encoder.calls();
+        tc.cd.clearCalls(), tc.encoder.clearCalls();
+        all.removeIf([](const QString& c) { return c.startsWith("BitRate") || c.startsWith("SampleRate"); });
+        return all;
+    }
+    QStringList files() { return QDir(path("")).entryList({"*.WAV", "*.MP3"}, QDir::Files); }
+};
+
+TEST_F(ConversionRun, CdToMp3ExtractsThenEncodesEachRowAndEndsWithTheTemporaryFileGone) {
+    cdMode(form1().mnuCDtoMP3, 3);
+    form1().lstSongs.setListIndex(1);  // the run goes from the selected row to the end
+    play();
+    tc.loop.advance(7000);
+    EXPECT_EQ(calls(), QStringList({"ExtractTrack(2," + path("Temp.WAV") + ")",
+                                    "OpenFiles(" + path("Temp.WAV") + "," + path("Track02.MP3") + ")",
+                                    "StartEncoding"}));
+    EXPECT_EQ(form1().lblTrackProgress.Caption(), "Encoding to MP3");
+    // Half way the fake reports 505 of 1000: 50 per cent, the tie going to the even number, and
+    // 50 hundredths of the bar's 3165 twips are 1582.5, kept whole the same way.
+    tc.loop.advance(1500);
+    EXPECT_EQ(form1().Shape1.Width(), 1582);
+    tc.loop.advance(1500 + 7000 + 3000);
+    EXPECT_EQ(calls(), QStringList({"ExtractTrack(3," + path("Temp.WAV") + ")",
+                                    "OpenFiles(" + path("Temp.WAV") + "," + path("Track03.MP3") + ")",
+                                    "StartEncoding", "OpenFiles(rem.wav,rem.old)"}));
+    EXPECT_EQ(tc.dialogs.texts(), QStringList({"Encoding complete...."}));
+    EXPECT_EQ(files(), QStringList()) << "the fake encoder writes no MP3; Temp.WAV is gone";
+    EXPECT_TRUE(form1().Ball.picture().sameAs(form1().imgRedBall.picture()));
+}
+
+// Under six seconds an extraction counts as failed and the row starts again; the sixth such
+// finish stops the run twice over and says so, and the stop's own finish ends it quietly. At
+// 6.0 seconds it counts as good.
+TEST_F(ConversionRun, ShortExtractionsRetrySixTimesAndSixSecondsIsEnough) {
+    cdMode(form1().mnuCdToWav, 2);
+    tc.cd.jobMs = 5999;
+    play();
+    tc.loop.advance(6 * 5999);
+    EXPECT_EQ(calls().size(), 7) << "the first try, then six starts, the last stopped at once";
+    tc.loop.advance(10);
+    EXPECT_EQ(tc.dialogs.texts(), QStringList({"Error Reading Track"}));
+    EXPECT_FALSE(form1().StopRequested) << "the stop's finish took the stop branch";
+    EXPECT_EQ(form1().ReadRetries, 0);
+
+    tc.cd.jobMs = 6000;
+    form1().BtnPlay.MouseDown(LeftButton, 0, 0, 0);
+    play();
+    tc.loop.advance(12000);
+    EXPECT_EQ(calls(), QStringList({"ExtractTrack(1," + path("Track01.WAV") + ")",
+                                    "ExtractTrack(2," + path("Track02.WAV") + ")"}));
+    EXPECT_EQ(tc.dialogs.texts().size(), 1) << "CD to WAV ends without a word";
+}
+
+// A stop while extracting ends the run with the temporary file deleted and the flag cleared;
+// a stop while encoding ends it with the end-of-run message though rows were left.
+TEST_F(ConversionRun, StopInEachStateEndsTheRun) {
+    cdMode(form1().mnuCDtoMP3, 3);
+    play();
+    tc.loop.advance(1000);
+    stop();
+    tc.loop.advance(10);
+    EXPECT_TRUE(files().isEmpty() && !form1().StopRequested && tc.dialogs.texts().isEmpty());
+
+    form1().BtnPlay.MouseDown(LeftButton, 0, 0, 0);
+    play();
+    tc.loop.advance(7000 + 1000);
+    stop();
+    tc.loop.advance(10);
+    EXPECT_EQ(tc.dialogs.texts(), QStringList({"Encoding complete...."}));
+    EXPECT_TRUE(form1().StopRequested) << "only the next press of Play clears it";
+    calls();
+    stop();  // with nothing running: no job, no message
+    tc.loop.advance(10000);
+    EXPECT_EQ(calls(), QStringList());
+}
+
+TEST_F(ConversionRun, FailedStartsSayWhyAndEndTheRun) {
+    cdMode(form1().mnuCDtoMP3, 0);
+    play();
+    for (const std::int16_t code : {712, 3}) {
+        form1().lstSongs.AddItem(" Track 01 \r 3:5 Mns");
+        tc.cd.extractResult = code;
+        play();
+    }
+    tc.cd.extractResult = 0;
+    tc.encoder.refuse = "Temp.WAV";
+    play();
+    tc.loop.advance(20000);
+    EXPECT_EQ(tc.dialogs.texts(), QStringList({"No tracks in song queue", "Insufficient disk space 712",
+                                               "Read Error 3", "Encoder open error"}));
+    EXPECT_EQ(files(), QStringList({"Temp.WAV"})) << "an encoder's refusal leaves the extracted track";
+}
+
+// WAV to MP3 asks before replacing an MP3; No ends the run there.
+TEST_F(ConversionRun, WavToMp3AsksBeforeReplacingAndGoesDownTheQueue) {
+    form1().mnuWavToMp3.setChecked(true);
+    for (const char* row : {"a", "b", "c"}) form1().lstSongs.AddItem(row);
+    write("c.MP3", "old");
+    form1().lstSongs.setListIndex(1);
+    tc.dialogs.answer(MsgResult::No);
+    play();
+    tc.loop.advance(3000);
+    EXPECT_EQ(calls(),
+              QStringList({"OpenFiles(" + path("b.WAV") + "," + path("b.MP3") + ")", "StartEncoding"}));
+    EXPECT_EQ(tc.dialogs.texts(), QStringList({"File already exists - overwrite?"}));
+    EXPECT_EQ(read("c.MP3"), "old");
+}
+
+}  // namespace
+}  // namespace sonarium

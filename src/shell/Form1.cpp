@@ -46,6 +46,7 @@ void Form1::wireHandlers() {
     C.cd.onExtractFinished = [this] { ACD_ExtractFinished(); };
     C.encoder.onEncodeProgress = [this](std::int32_t done) { Mp3Enc_EncodeProgress(done); };
     C.encoder.onEncodeFinished = [this] { Mp3Enc_EncodeFinished(); };
+    TimerEnc.onTimer = [this] { TimerEnc_Timer(); };
     lstSongs.onClick = [this] { lstSongs_Click(); };
 
     chkLoop.onClick = [this] { chkLoop_Click(); };

@@ -254,6 +254,9 @@ public:
     // False when the encoder refused the job, which ends the run.
     bool StartInternalEncoder(const QString& wav, const QString& mp3);
     void EncodeBlade(const QString& dir, QString& srcFile, const QString& dstFile);
+    void TimerEnc_Timer();
+    void RemoveEncoderCopy();
+    void RestoreBladeNames();
     void EncodingShown();
     // Selects the next row and starts its job, unless the run was stopped or this was the last.
     bool SelectNextRow();
@@ -292,7 +295,8 @@ public:
     QString LastDir;
     std::int32_t BarWidth = 0;
     std::int16_t CurrentTrack = 0, ReadRetries = 0;
-    double ExtractStart = 0;
+    double ExtractStart = 0, BladeStart = 0;
+    std::int64_t BladeProcess = 0;
     std::int32_t EncodeStep = 0;
     std::int32_t EncoderBitRate = 0, EncoderSampleRate = 0;
     bool SearchRunning = false;

@@ -139,3 +139,46 @@ TEST_F(ConversionRun, WavToMp3AsksBeforeReplacingAndGoesDownTheQueue) {
 
 }  // namespace
 }  // namespace sonarium
+
+namespace sonarium {
+namespace {
+
+// The external encoder on a source named with a blank: renamed without it for the job, copied
+// into the folder and run there on the command line built; the running time shown with its
+// rounding; at the end the copy gone and both files under the name with the blank. A stop
+// while it runs kills it and says so.
+TEST_F(ConversionRun, BladeRenamesCopiesRunsWatchesAndPutsBackTheNames) {
+    QDir(path("")).mkdir("music");
+    const QString music = path("music") + "/";
+    form1().CurrentDir = music;
+    write("Bladeenc", "#!/bin/sh\n");
+    write("music/My Song.WAV", "wav");
+    form1().mnuWavToMp3.setChecked(true);
+    form1().mnuInternal.setChecked(false);
+    form1().mnuBlade.setChecked(true);
+    form1().lstSongs.AddItem("My Song");
+    play();
+    EXPECT_EQ(tc.processes.calls(), QStringList({"Start(Bladeenc -quit  -128 MySong.WAV," + music + ")"}));
+    EXPECT_TRUE(QFile::exists(music + "MySong.WAV") && QFile::exists(music + "Bladeenc"));
+    EXPECT_EQ(form1().currentDirectory.path(), path("music"));
+    for (const auto& [ms, shown] : {std::pair{59500, "00:00"}, {500, "01:00"}}) {
+        tc.loop.advance(ms);
+        EXPECT_EQ(form1().lblBladeEncTime.Caption(), QString(" Using Blade ......Time  ") + shown);
+    }
+    write("music/MySong.MP3", "mp3");  // what the encoder writes
+    tc.processes.end(1001);
+    tc.loop.advance(100);
+    EXPECT_EQ(QDir(music).entryList(QDir::Files), QStringList({"My Song.MP3", "My Song.WAV"}));
+    EXPECT_EQ(tc.dialogs.texts(), QStringList({"Encoding complete...."}));
+    EXPECT_EQ(form1().currentDirectory.path(), path(""));
+
+    tc.dialogs.answer(MsgResult::Yes);  // the MP3 made above goes
+    play();
+    form1().BtnStop.MouseDown(LeftButton, 0, 0, 0);
+    EXPECT_EQ(tc.processes.calls().last(), "Terminate(1002)");
+    EXPECT_EQ(tc.dialogs.texts().last(), "Encoding aborted....");
+    EXPECT_EQ(QDir(music).entryList(QDir::Files), QStringList({"My Song.WAV"}));
+}
+
+}  // namespace
+}  // namespace sonarium

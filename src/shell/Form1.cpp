@@ -47,6 +47,18 @@ void Form1::wireHandlers() {
     C.encoder.onEncodeProgress = [this](std::int32_t done) { Mp3Enc_EncodeProgress(done); };
     C.encoder.onEncodeFinished = [this] { Mp3Enc_EncodeFinished(); };
     TimerEnc.onTimer = [this] { TimerEnc_Timer(); };
+    mnuCDtoMP3.onClick = [this] { mnuCDtoMP3_Click(); };
+    mnuCdToWav.onClick = [this] { mnuCdToWav_Click(); };
+    mnuWavToMp3.onClick = [this] { mnuWavToMp3_Click(); };
+    mnuMP3ToWav.onClick = [this] { mnuMP3ToWav_Click(); };
+    mnuInternal.onClick = [this] { mnuInternal_Click(); };
+    mnuBlade.onClick = [this] { mnuBlade_Click(); };
+    mnuCDOpen.onClick = [this] { mnuCDOpen_Click(); };
+    mnuCDClose.onClick = [this] { mnuCDClose_Click(); };
+    mnuBladeInvisible.onClick = [this] { ChooseBladeWindow(true); };
+    mnuBladeMinimised.onClick = [this] { ChooseBladeWindow(false); };
+    cboBitRate.onClick = [this] { cboBitRate_Click(); };
+    imgQuitEncoder.onClick = [this] { imgQuitEncoder_Click(); };
     lstSongs.onClick = [this] { lstSongs_Click(); };
 
     chkLoop.onClick = [this] { chkLoop_Click(); };

@@ -247,6 +247,29 @@ public:
     void CheckForBlade();                   // the external encoder's stop question
     bool Mp3ToWavTargetOk();                // the overwrite question of MP3 to WAV
 
+    // ---- Conversion: modes ----
+    void mnuCDtoMP3_Click();
+    void mnuCdToWav_Click();
+    void mnuWavToMp3_Click();
+    void mnuMP3ToWav_Click();
+    void mnuInternal_Click();
+    void mnuBlade_Click();
+    void mnuCDOpen_Click();
+    void mnuCDClose_Click();
+    void cboBitRate_Click();
+    void imgQuitEncoder_Click();
+    void ChooseEncoder(std::int16_t choice);
+    void ChooseBladeWindow(bool invisible);
+    // Mode 0 CD to WAV, 1 CD to MP3: enters the mode and lists the CD, or leaves the mode.
+    void GetAudioTracks(int mode);
+    void GetDriveList();
+    void EnterMode();
+    void LeaveMode();
+    void ShowConversionPanel();
+    void SetRateListsVisible(bool visible);
+    void SetPunchControlsVisible(bool visible);
+    std::vector<Control*> PlayerOnlyControls();
+
     // ---- Conversion: runs ----
     void ConversionPlay();  // Play in the CD and WAV conversion modes
     void WavToMp3Play();

@@ -55,6 +55,7 @@ struct Module1 {
 
     // Conversion
     std::int16_t SelectedCDDrive = 0;
+    bool BitRateChanging = false;  // while the bit rate list refreshes the queue
     QString BladeSourceName, BladeSpacelessName;
 };
 

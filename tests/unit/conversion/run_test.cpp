@@ -182,3 +182,43 @@ TEST_F(ConversionRun, BladeRenamesCopiesRunsWatchesAndPutsBackTheNames) {
 
 }  // namespace
 }  // namespace sonarium
+
+namespace sonarium {
+namespace {
+
+// The CD modes: entering lists the CD's tracks as rows (the carriage return, the unpadded
+// seconds, the title pane without the last four characters) and turns the window into the
+// converter; the other CD entry switches modes, its own entry leaves, the bit rate rereads the
+// CD and empties the queue, and a CD without tracks asks to retry.
+TEST_F(ConversionRun, CdModesListTheTracksSwitchLeaveAndRetry) {
+    Form1& f = form1();
+    tc.cd.tracks = {185000, 247499, 60000};
+    f.lstSongs.AddItem("queued song");
+    f.mnuCdToWav.Click();
+    EXPECT_TRUE(f.mnuCdToWav.Checked() && f.PanelCdToMP3.Visible() && !f.BtnPause.Visible() &&
+                !f.mnuView.Enabled() && !f.cboBitRate.Visible() && f.lstSongs.ListCount() == 0);
+    EXPECT_EQ(f.Titles, QStringList({" Track 01 \r 3:5 Mns     ", " Track 02 \r 4:7 Mns     ",
+                                     " Track 03 \r 1:0 Mns     "}));
+    EXPECT_EQ(f.Title[1].Caption(), " Track 02 \r 4:7 Mns ");
+
+    f.mnuCdToWav.Click();  // its own entry again leaves the mode
+    EXPECT_TRUE(!f.mnuCdToWav.Checked() && !f.PanelCdToMP3.Visible() && f.BtnPause.Visible() &&
+                f.mnuView.Enabled());
+    EXPECT_EQ(f.lstSongs.rows(), QStringList({"queued song"})) << "the player's queue is back";
+
+    f.mnuCdToWav.Click();
+    f.mnuCDtoMP3.Click();  // from the other CD mode: entered, not left
+    EXPECT_TRUE(f.mnuCDtoMP3.Checked() && !f.mnuCdToWav.Checked() && f.cboBitRate.Visible());
+    f.lstSongs.AddItem(f.Title[0].Caption());
+    f.cboBitRate.Click();
+    EXPECT_TRUE(f.mnuCDtoMP3.Checked() && f.lstSongs.ListCount() == 0) << "reread, the queue emptied";
+    f.mnuCDtoMP3.Click();
+    tc.cd.tracks.clear();
+    tc.dialogs.answer(MsgResult::Yes).answer(MsgResult::No);
+    f.mnuCDtoMP3.Click();
+    EXPECT_EQ(tc.dialogs.texts(), QStringList(2, "Error reading CD drive - Retry?"));
+    EXPECT_FALSE(f.mnuCDtoMP3.Checked());
+}
+
+}  // namespace
+}  // namespace sonarium

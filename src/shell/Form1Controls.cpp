@@ -21,7 +21,7 @@ std::vector<Control*> Form1Controls::allControls() const {
     // clang-format off
     std::vector<Control*> all = {
         &self->imgStick, &self->PicTopPanel, &self->PicView, &self->PicMixer, &self->PicTitleBoxes,
-        &self->PicRightPanel, &self->PicEncode, &self->PicDatabase, &self->imgSize,
+        &self->PicRightPanel, &self->PicDatabase, &self->imgSize,
         &self->BtnPlay, &self->BtnPause, &self->BtnStop, &self->BtnFade, &self->chkLoop, &self->Ball,
         &self->imgRedBall, &self->imgGreenBall, &self->lblRepeat,
         &self->lstSongs, &self->List1, &self->lstSongSets, &self->cmdUp, &self->cmdDown, &self->cmdAddAll,
@@ -33,7 +33,7 @@ std::vector<Control*> Form1Controls::allControls() const {
         &self->PanelPhoto, &self->PanelSongInfo, &self->Photo, &self->imgMpeg3, &self->Image8, &self->Image9,
         &self->imgMS, &self->txtTitle, &self->txtArtist, &self->txtAlbum, &self->txtYear, &self->txtComment,
         &self->cboGenre, &self->cmdUpdateTag, &self->lblSongTitile, &self->lblBitrate, &self->lblFrequency, &self->lblSongDuration,
-        &self->PanelCdToMP3, &self->cboBitRate, &self->cboSampleRate, &self->lblBtRate, &self->lblSampleRate,
+        &self->PanelCdToMP3, &self->PicEncode, &self->cboBitRate, &self->cboSampleRate, &self->lblBtRate, &self->lblSampleRate,
         &self->Label11, &self->lblTrackProgress, &self->lblBladeEncTime, &self->txtTrackTitle,
         &self->ShapeBack, &self->Shape1, &self->chkUseInOut, &self->cmdSetPunchInOut, &self->lblPunchInOut,
         &self->imgEncoder, &self->imgQuitEncoder,

@@ -1,0 +1,40 @@
+// The converter in the real window, for people to look at: CD to MP3 with a CD's tracks listed,
+// a run in progress, and WAV to MP3. What each mode shows and hides is the conversion unit
+// tests' to check.
+#include "WindowsFixture.h"
+
+namespace sonarium {
+namespace {
+
+class ConversionWindowTest : public WindowsFixture {};
+
+TEST_F(ConversionWindowTest, TheModesInTheWindow) {
+    program().Main();
+    settle();
+    tc.dialogs.clear();
+    tc.dialogs.setAutoAnswerOk(true);
+    Form1& f = form1();
+    f.mnuInternal.Click();
+    tc.cd.tracks = {185000, 247000, 61000,  300000, 199000, 211000, 150000,
+                    90000,  240000, 222000, 180000, 175000, 66000};
+    f.mnuCDtoMP3.Click();
+    settle();
+    saveScreenshot(main(), "convert-cd-to-mp3.png");
+    f.lstSongs.AddItem(f.Title[0].Caption());
+    f.lstSongs.AddItem(f.Title[1].Caption());
+    f.BtnPlay.MouseDown(LeftButton, 0, 0, 0);
+    f.BtnPlay.MouseUp(LeftButton, 0, 0, 0);
+    tc.loop.advance(8500);  // extracted, and half way through the encoding
+    settle();
+    EXPECT_EQ(f.lblTrackProgress.Caption(), "Encoding to MP3");
+    saveScreenshot(main(), "convert-running.png");
+    f.imgQuitEncoder.Click();
+    settle();
+    EXPECT_FALSE(f.PanelCdToMP3.Visible());
+    f.mnuWavToMp3.Click();
+    settle();
+    saveScreenshot(main(), "convert-wav-to-mp3.png");
+}
+
+}  // namespace
+}  // namespace sonarium

@@ -177,11 +177,20 @@ void Form1::Mp3Enc_EncodeFinished() {
     EndOfEncodingRun();
 }
 
-void Form1::EndOfEncodingRun() {
-    // The call the encoder takes as "no job"; it always comes before the temporary file goes.
+void Form1::ReleaseEncoderFiles() {
     tryStep([&] { C.encoder.OpenFiles(QStringLiteral("rem.wav"), QStringLiteral("rem.old")); });
+}
+
+// Found in any case of its name, as the program spells it two ways.
+void Form1::DeleteTemporaryWav() {
     if (fileExists(CurrentDir + QStringLiteral("Temp.wav")))
         QFile::remove(resolveFileName(CurrentDir + QStringLiteral("Temp.WAV")));
+}
+
+void Form1::EndOfEncodingRun() {
+    // The call the encoder takes as "no job"; it always comes before the temporary file goes.
+    ReleaseEncoderFiles();
+    DeleteTemporaryWav();
     C.dialogs.msgBox(QStringLiteral("Encoding complete...."), MsgButtons::OK, MsgIcon::Information,
                      QStringLiteral("Ecoding"));
 }

@@ -79,9 +79,8 @@ void Form1::TimerEnc_Timer() {
     if (mnuCDtoMP3.Enabled() || mnuWavToMp3.Checked()) {
         const int row = lstSongs.ListIndex();
         if (StopRequested || row >= lstSongs.ListCount() - 1) {
-            tryStep([&] { C.encoder.OpenFiles(QStringLiteral("rem.wav"), QStringLiteral("rem.old")); });
-            if (fileExists(CurrentDir + QStringLiteral("Temp.wav")))
-                QFile::remove(resolveFileName(CurrentDir + QStringLiteral("Temp.WAV")));
+            ReleaseEncoderFiles();
+            DeleteTemporaryWav();
             RemoveEncoderCopy();
             tryStep([&] { lblBladeEncTime.setVisible(false); });
             C.dialogs.msgBox(QStringLiteral("Encoding complete...."), MsgButtons::OK, MsgIcon::Information,
@@ -102,10 +101,9 @@ void Form1::CheckForBlade() {
     tryStep([&] { TimerEnc.setEnabled(false); });
     // Told to die and not waited for: deletions the dying process still blocks are passed over.
     tryStep([&] { C.processes.TerminateProcess(BladeProcess, 0); });
-    tryStep([&] { C.encoder.OpenFiles(QStringLiteral("rem.wav"), QStringLiteral("rem.old")); });
+    ReleaseEncoderFiles();
     RemoveEncoderCopy();
-    if (fileExists(CurrentDir + QStringLiteral("Temp.wav")))
-        QFile::remove(resolveFileName(CurrentDir + QStringLiteral("Temp.WAV")));
+    DeleteTemporaryWav();
     tryStep([&] { lblBladeEncTime.setVisible(false); });
     ShowButtonImage(BtnStop, StopAtRest);
     ShowLamp(false);

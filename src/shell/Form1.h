@@ -284,6 +284,8 @@ public:
     // Selects the next row and starts its job, unless the run was stopped or this was the last.
     bool SelectNextRow();
     void EndOfEncodingRun();
+    void ReleaseEncoderFiles();  // the encoder's call with "rem.wav", its "no job"
+    void DeleteTemporaryWav();
     void ACD_ExtractProgress(std::int32_t perMille);
     void ACD_ExtractFinished();
     void Mp3Enc_EncodeProgress(std::int32_t done);

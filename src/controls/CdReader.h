@@ -20,6 +20,9 @@ public:
     // Starts copying; returns at once. 0 started, 712 not enough disk space, else a read error.
     virtual std::int16_t ExtractTrack(std::int16_t track, const QString& file) = 0;
     virtual void StopExtract() = 0;  // ExtractFinished still follows
+    // After ExtractFinished: whether that extraction wrote every sector of its track. A reader
+    // that cannot tell says false.
+    virtual bool ExtractComplete() const = 0;
     virtual void OpenTray() = 0;
     virtual void CloseTray() = 0;
 

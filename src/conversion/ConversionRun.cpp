@@ -12,7 +12,8 @@ namespace sonarium {
 namespace {
 
 constexpr int PlayAtRest = 1;
-// An extraction that ends sooner than this is taken for a failed read; six in a row stop the run.
+// An extraction that ends sooner than this, short of its track, is taken for a failed read; six
+// in a row stop the run.
 constexpr double MinExtractSeconds = 6.0;
 constexpr int MaxReadRetries = 6;
 
@@ -123,7 +124,12 @@ void Form1::ACD_ExtractProgress(std::int32_t perMille) {
 
 void Form1::ACD_ExtractFinished() {
     ShowLamp(false);
-    if (ClockSeconds() - ExtractStart < MinExtractSeconds && !StopRequested) {
+    // The drive gives no success flag, so an extraction that ended this soon is taken for a
+    // failed read, unless the reader says it wrote the whole track: a CD image, or a fast drive
+    // on a short track, reads a track in well under six seconds.
+    bool complete = false;
+    tryStep([&] { complete = C.cd.ExtractComplete(); });
+    if (ClockSeconds() - ExtractStart < MinExtractSeconds && !StopRequested && !complete) {
         // Too soon: the same row again, and after the sixth such finish the run is stopped,
         // whose own finish then takes the stop branch below.
         ++ReadRetries;

@@ -70,6 +70,7 @@ public:
     std::vector<std::int32_t> tracks;  // lengths in ms
     int jobMs = 7000;
     std::int16_t extractResult = 0;
+    bool complete = false;  // what ExtractComplete says
 
     std::int16_t InitCD() override { return 0; }
     void SelectDrive(std::int16_t d) override { record("SelectDrive", d); }
@@ -90,6 +91,7 @@ public:
         return 0;
     }
     void StopExtract() override { stopJob(); }
+    bool ExtractComplete() const override { return complete; }
     void OpenTray() override { record("OpenTray"); }
     void CloseTray() override { record("CloseTray"); }
 };

@@ -63,6 +63,7 @@ TEST(CdReaderTest, ImageTracksRipAsWrittenStopsAndBadJobsFinishOnceOrNotAtAll) {
     loop.waitUntil([&] { return finished == 1; });
     stopped = stopped.mid(44);
     EXPECT_TRUE(stopped.size() < album.tracks[3].size() && album.tracks[3].startsWith(stopped));
+    EXPECT_FALSE(cd.ExtractComplete());
     cd.StopExtract();  // harmless with no job
     for (const auto& [drive, image] : {std::pair{system + 1, album.cue}, {system + 2, album.toc}}) {
         cd.SelectDrive(std::int16_t(drive));
@@ -74,6 +75,7 @@ TEST(CdReaderTest, ImageTracksRipAsWrittenStopsAndBadJobsFinishOnceOrNotAtAll) {
             EXPECT_TRUE(progress.size() <= 1000 && progress.back() == 1000 &&
                         std::is_sorted(progress.begin(), progress.end()));
             EXPECT_EQ(bytes("ours.wav").mid(44), album.tracks[t - 1]);
+            EXPECT_TRUE(cd.ExtractComplete());
             // The tool finds a .toc's files from its working directory only, so it rips the .cue.
             if (image == album.toc) continue;
             fixtures::runTool(

@@ -243,11 +243,14 @@ std::int16_t CdioCdReader::ExtractTrack(std::int16_t number, const QString& file
     if (!job->wav.open(target, 44100, 2)) return kCannotWrite;
 
     job->cdio = cdio.release();
+    complete_ = false;
     const std::int64_t total = job->track.sectors();
     job_.start(
         [this, job, total] {
             ProgressSteps steps(total, 1000);
+            std::int64_t read = 0;
             const auto progress = [&](std::int64_t done) {
+                read = done;
                 if (!steps.next(done)) return;
                 const auto perMille = std::int32_t(std::min(done, total) * 1000 / total);
                 job_.post([this, perMille] {
@@ -257,7 +260,8 @@ std::int16_t CdioCdReader::ExtractTrack(std::int16_t number, const QString& file
             (job->exact ? copyImage : readDrive)(*job, job_, progress);
             // The WAV's header gets its sizes before the finish is posted; the handle goes with
             // the job when the worker ends.
-            job->wav.close();
+            const bool written = job->wav.close();
+            complete_ = written && read == total && !job_.stopRequested();
         },
         [this] {
             if (onExtractFinished) onExtractFinished();

@@ -14,6 +14,7 @@
 // each whole thousandth and ExtractFinished once per started job, also after StopExtract.
 #include <QByteArray>
 #include <QString>
+#include <atomic>
 #include <memory>
 #include <vector>
 
@@ -48,6 +49,7 @@ public:
     void SetOwnerName(const QString&) override {}
     std::int16_t ExtractTrack(std::int16_t track, const QString& file) override;
     void StopExtract() override { job_.requestStop(); }
+    bool ExtractComplete() const override { return complete_; }
     // A drive's tray moves on a thread of its own, as it takes seconds; nothing for an image.
     void OpenTray() override { moveTray(true); }
     void CloseTray() override { moveTray(false); }
@@ -76,6 +78,7 @@ private:
     int selected_ = 0;  // 1-based; 0 none
     std::vector<Track> tracks_;
     bool tracksRead_ = false;
+    std::atomic<bool> complete_{false};  // written by the worker before its finish is posted
     WorkerJob job_;  // last: it goes first, stopping the worker before what the worker uses
 };
 

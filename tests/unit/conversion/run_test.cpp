@@ -80,6 +80,14 @@ TEST_F(ConversionRun, ShortExtractionsRetrySixTimesAndSixSecondsIsEnough) {
     EXPECT_EQ(calls(), QStringList({"ExtractTrack(1," + path("Track01.WAV") + ")",
                                     "ExtractTrack(2," + path("Track02.WAV") + ")"}));
     EXPECT_EQ(tc.dialogs.texts().size(), 1) << "CD to WAV ends without a word";
+
+    // A reader that wrote the whole track is believed however fast it was (an image).
+    tc.cd.jobMs = 50;
+    tc.cd.complete = true;
+    form1().lstSongs.setListIndex(0);
+    play();
+    tc.loop.advance(100);
+    EXPECT_EQ(calls().size(), 2);
 }
 
 // A stop while extracting ends the run with the temporary file deleted and the flag cleared;

@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Builds and runs the tests once more under the sanitizers, each kind in a build tree of its own:
 # the unit, integration and fuzz tests under AddressSanitizer and UndefinedBehaviorSanitizer, and
-# the threaded tests (the player's runs, the queue played through it, the sound path, the encoder) under
+# the threaded tests (the player's runs, the queue played through it, the sound path, the converters) under
 # ThreadSanitizer. Any report fails the run.
 source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 install_missing "${BUILD_PACKAGES[@]}" "${TEST_PACKAGES[@]}"
@@ -24,5 +24,5 @@ tsan=${SONARIUM_BUILD}-tsan
 sanitized "$tsan" "-fsanitize=thread" integration_tests
 (cd "$tsan" && TSAN_OPTIONS=halt_on_error=1:second_deadlock_stack=1 \
     ctest --output-on-failure -j"$(nproc)" --timeout 900 -L integration \
-        -R 'Player|QueuePlay|SpeedStage|Volume|Peak|Encoder|CdReader')
+        -R 'Player|QueuePlay|SpeedStage|Volume|Peak|Encoder|CdReader|Conversion')
 echo "Sanitizers: no reports"

@@ -1,0 +1,54 @@
+// The converter in the program on the real components, on a CD image made here: CD to WAV gives
+// each track's samples byte for byte; CD to MP3 through LAME gives MP3s of the tracks' lengths
+// and leaves no temporary file.
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QTemporaryDir>
+
+#include "fixtures/CdImage.h"
+#include "fixtures/Files.h"
+#include "fixtures/RealPlayerProgram.h"
+#include "fixtures/ToolRunner.h"
+#include "fixtures/WavFile.h"
+
+namespace sonarium {
+namespace {
+
+TEST(ConversionIntegration, CdToWavAndCdToMp3OfThreeTracks) {
+    QTemporaryDir dir;
+    const fixtures::CdImage image = fixtures::makeCdImage(dir.path(), "Disc", {150, 225, 300});
+    fixtures::RealPlayerProgram<> parts{std::chrono::seconds(60), image.cue};
+    parts.dialogs.setAutoAnswerOk(true);
+    Form1& f = parts.start(dir.path()).form1;
+    f.CurrentDir = dir.path() + "/";
+    f.mnuInternal.Click();
+    auto rip = [&](MenuItem& mode, const std::function<bool()>& done) {
+        mode.Click();
+        for (int t = 0; t < 3; ++t) f.Title_DblClick(t);
+        f.BtnPlay.MouseDown(LeftButton, 0, 0, 0);
+        f.BtnPlay.MouseUp(LeftButton, 0, 0, 0);
+        parts.loop.waitUntil(done);
+    };
+
+    // CD to WAV ends without a word: the last WAV whole, its header written, marks the end.
+    rip(f.mnuCdToWav,
+        [&] { return QFileInfo(dir.filePath("Track03.WAV")).size() == 44 + image.tracks[2].size(); });
+    for (int t = 0; t < 3; ++t)
+        EXPECT_EQ(
+            fixtures::fileBytes(dir.filePath(QString("Track%1.WAV").arg(t + 1, 2, 10, QChar('0')))).mid(44),
+            image.tracks[std::size_t(t)]);
+    f.mnuCdToWav.Click();
+
+    rip(f.mnuCDtoMP3, [&] { return parts.dialogs.texts().contains("Encoding complete...."); });
+    for (int t = 0; t < 3; ++t) {
+        const QString mp3 = dir.filePath(QString("Track%1.MP3").arg(t + 1, 2, 10, QChar('0')));
+        ASSERT_EQ(fixtures::mpg123ToWav(mp3, dir.filePath("back.wav")), 0);
+        EXPECT_NEAR(double(fixtures::readWav(dir.filePath("back.wav")).frames()),
+                    double(image.tracks[std::size_t(t)].size() / 4), 1152);
+    }
+    EXPECT_FALSE(QFile::exists(dir.filePath("Temp.WAV")));
+}
+
+}  // namespace
+}  // namespace sonarium

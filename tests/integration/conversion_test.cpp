@@ -1,6 +1,7 @@
 // The converter in the program on the real components, on a CD image made here: CD to WAV gives
 // each track's samples byte for byte; CD to MP3 through LAME gives MP3s of the tracks' lengths
-// and leaves no temporary file.
+// and leaves no temporary file; WAV to MP3 through the outside-encoder adapter keeps a name with
+// a blank.
 #include <gtest/gtest.h>
 
 #include <QDir>
@@ -15,7 +16,7 @@
 namespace sonarium {
 namespace {
 
-TEST(ConversionIntegration, CdToWavAndCdToMp3OfThreeTracks) {
+TEST(ConversionIntegration, CdToWavCdToMp3AndWavToMp3ThroughTheAdapter) {
     QTemporaryDir dir;
     const fixtures::CdImage image = fixtures::makeCdImage(dir.path(), "Disc", {150, 225, 300});
     fixtures::RealPlayerProgram<> parts{std::chrono::seconds(60), image.cue};
@@ -23,16 +24,16 @@ TEST(ConversionIntegration, CdToWavAndCdToMp3OfThreeTracks) {
     Form1& f = parts.start(dir.path()).form1;
     f.CurrentDir = dir.path() + "/";
     f.mnuInternal.Click();
-    auto rip = [&](MenuItem& mode, const std::function<bool()>& done) {
+    auto rip = [&](MenuItem& mode, int titles, const std::function<bool()>& done) {
         mode.Click();
-        for (int t = 0; t < 3; ++t) f.Title_DblClick(t);
+        for (int t = 0; t < titles; ++t) f.Title_DblClick(t);
         f.BtnPlay.MouseDown(LeftButton, 0, 0, 0);
         f.BtnPlay.MouseUp(LeftButton, 0, 0, 0);
         parts.loop.waitUntil(done);
     };
 
     // CD to WAV ends without a word: the last WAV whole, its header written, marks the end.
-    rip(f.mnuCdToWav,
+    rip(f.mnuCdToWav, 3,
         [&] { return QFileInfo(dir.filePath("Track03.WAV")).size() == 44 + image.tracks[2].size(); });
     for (int t = 0; t < 3; ++t)
         EXPECT_EQ(
@@ -40,7 +41,7 @@ TEST(ConversionIntegration, CdToWavAndCdToMp3OfThreeTracks) {
             image.tracks[std::size_t(t)]);
     f.mnuCdToWav.Click();
 
-    rip(f.mnuCDtoMP3, [&] { return parts.dialogs.texts().contains("Encoding complete...."); });
+    rip(f.mnuCDtoMP3, 3, [&] { return parts.dialogs.texts().contains("Encoding complete...."); });
     for (int t = 0; t < 3; ++t) {
         const QString mp3 = dir.filePath(QString("Track%1.MP3").arg(t + 1, 2, 10, QChar('0')));
         ASSERT_EQ(fixtures::mpg123ToWav(mp3, dir.filePath("back.wav")), 0);
@@ -48,6 +49,22 @@ TEST(ConversionIntegration, CdToWavAndCdToMp3OfThreeTracks) {
                     double(image.tracks[std::size_t(t)].size() / 4), 1152);
     }
     EXPECT_FALSE(QFile::exists(dir.filePath("Temp.WAV")));
+    f.mnuCDtoMP3.Click();
+
+    // WAV to MP3 through the project's outside-encoder adapter, on a song named with a blank in
+    // a folder of its own: both files end under the name with the blank, and the copy of the
+    // encoder is gone.
+    const QString music = dir.filePath("music") + "/";
+    ASSERT_TRUE(QDir(dir.path()).mkdir("music") && QFile::copy(SONARIUM_BLADEENC, dir.filePath("Bladeenc")) &&
+                QFile::copy(dir.filePath("Track01.WAV"), music + "My Song.WAV"));
+    f.CurrentDir = music;
+    f.mnuBlade.Click();
+    rip(f.mnuWavToMp3, 1, [&] { return parts.dialogs.texts().count("Encoding complete....") == 2; });
+    EXPECT_EQ(parts.program->M.BladeSourceName, "My Song.WAV") << "the outside encoder did the job";
+    EXPECT_EQ(QDir(music).entryList(QDir::Files), QStringList({"My Song.MP3", "My Song.WAV"}));
+    ASSERT_EQ(fixtures::mpg123ToWav(music + "My Song.MP3", dir.filePath("back.wav")), 0);
+    EXPECT_NEAR(double(fixtures::readWav(dir.filePath("back.wav")).frames()),
+                double(image.tracks[0].size() / 4), 1152);
 }
 
 }  // namespace

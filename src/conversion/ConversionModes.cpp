@@ -3,15 +3,16 @@
 // the player and its queue back.
 #include <vector>
 
+#include "shell/ButtonPictures.h"
 #include "shell/Form1.h"
 #include "shell/Form2.h"
 #include "shell/TextFields.h"
 
 namespace sonarium {
 
-namespace {
+using namespace buttons;
 
-constexpr int PlayAtRest = 1, StopAtRest = 3;
+namespace {
 
 // A CD track's row: the track number at characters 8 and 9, a carriage return, and the length
 // in minutes and seconds with no leading zero on the seconds.

@@ -4,14 +4,16 @@
 #include <QFile>
 
 #include "controls/FileNames.h"
+#include "shell/ButtonPictures.h"
 #include "shell/Form1.h"
 #include "shell/TextFields.h"
 
 namespace sonarium {
 
+using namespace buttons;
+
 namespace {
 
-constexpr int PlayAtRest = 1;
 // An extraction that ends sooner than this, short of its track, is taken for a failed read; six
 // in a row stop the run.
 constexpr double MinExtractSeconds = 6.0;

@@ -7,14 +7,16 @@
 
 #include "controls/FileNames.h"
 #include "shell/AppFiles.h"
+#include "shell/ButtonPictures.h"
 #include "shell/Form1.h"
 #include "shell/TextFields.h"
 
 namespace sonarium {
 
+using namespace buttons;
+
 namespace {
 
-constexpr int StopAtRest = 3;
 const QString EncoderProgram = QStringLiteral("Bladeenc");
 
 QString withoutBlanks(QString name) { return name.remove(u' '); }

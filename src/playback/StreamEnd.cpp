@@ -1,13 +1,15 @@
 // The end of a stream, whether the file ran out or Stop was called: the only place that
 // clears SongPlaying, and the only place that starts the next song.
 #include "controls/Errors.h"
+#include "shell/ButtonPictures.h"
 #include "shell/Form1.h"
 #include "shell/FrmMiniPlayer.h"
 
 namespace sonarium {
 
+using namespace buttons;
+
 namespace {
-constexpr int PlayAtRest = 1;
 constexpr int KnobRestLeft = 3705;
 }  // namespace
 

@@ -2,14 +2,13 @@
 // a queue row during play, the end of the song before, the alarm and the mini player.
 #include "controls/Errors.h"
 #include "controls/FileNames.h"
+#include "shell/ButtonPictures.h"
 #include "shell/Form1.h"
 #include "shell/FrmMiniPlayer.h"
 
 namespace sonarium {
 
-namespace {
-constexpr int PlayAtRest = 1, PlayPressed = 2, PlayPlaying = 24, MonoPicture = 17, StereoPicture = 18;
-}
+using namespace buttons;
 
 void Form1::ShowButtonImage(Image& button, int index) {
     tryStep([&] { button.setPicture(ImageListB.ListImage(index)); });

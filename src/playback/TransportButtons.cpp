@@ -1,14 +1,12 @@
 // Pause, Stop and Fade. A mouse-down only changes the button's picture; the mouse-up acts.
 // A paused song can only be resumed: Stop and Fade do nothing until Pause is pressed again.
 #include "controls/Errors.h"
+#include "shell/ButtonPictures.h"
 #include "shell/Form1.h"
 
 namespace sonarium {
 
-namespace {
-constexpr int StopAtRest = 3, StopPressed = 4, FadeAtRest = 5, FadePressed = 6;
-constexpr int PauseAtRest = 7, PausePressed = 8, PauseWhilePaused = 9, PausePressedWhilePaused = 10;
-}  // namespace
+using namespace buttons;
 
 void Form1::BtnPause_MouseDown(int, int, double, double) {
     if (!M.SongPlaying) return;

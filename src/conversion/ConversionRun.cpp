@@ -41,8 +41,7 @@ void Form1::ConversionPlay() {
 
 void Form1::WavToMp3Play() {
     if (lstSongs.ListIndex() == -1) tryStep([&] { lstSongs.setListIndex(0); });
-    tryStep([&] { C.encoder.setEncoderBitRate(leadingNumber(cboBitRate.Text())); });
-    tryStep([&] { C.encoder.setEncoderSampleRate(leadingNumber(cboSampleRate.Text()) * 1000); });
+    WriteEncoderSettings();
     QString row;
     tryStep([&] { row = lstSongs.List(lstSongs.ListIndex()); });
     const QString target = CurrentDir + row + QStringLiteral(".MP3");
@@ -150,16 +149,14 @@ void Form1::ACD_ExtractFinished() {
     ReadRetries = 0;
     if (StopRequested) {
         StopRequested = false;
-        if (mnuCDtoMP3.Checked()) QFile::remove(resolveFileName(CurrentDir + QStringLiteral("Temp.WAV")));
+        if (mnuCDtoMP3.Checked()) DeleteTemporaryWav();
         return;
     }
     if (!mnuCDtoMP3.Checked()) {
         SelectNextRow();
         return;
     }
-    tryStep([&] { C.encoder.setEncoderBitRate(std::int32_t(leadingNumber(cboBitRate.Text()))); });
-    tryStep(
-        [&] { C.encoder.setEncoderSampleRate(std::int32_t(leadingNumber(cboSampleRate.Text()) * 1000)); });
+    WriteEncoderSettings();
     if (mnuInternal.Checked()) {
         if (!StartInternalEncoder(CurrentDir + QStringLiteral("Temp.WAV"),
                                   TrackFileName(QStringLiteral(".MP3"))))
@@ -183,6 +180,11 @@ void Form1::Mp3Enc_EncodeFinished() {
     if (!mnuCDtoMP3.Enabled() && !mnuWavToMp3.Checked()) return;
     if (SelectNextRow()) return;
     EndOfEncodingRun();
+}
+
+void Form1::WriteEncoderSettings() {
+    tryStep([&] { C.encoder.setEncoderBitRate(leadingNumber(cboBitRate.Text())); });
+    tryStep([&] { C.encoder.setEncoderSampleRate(leadingNumber(cboSampleRate.Text()) * 1000); });
 }
 
 void Form1::ReleaseEncoderFiles() {

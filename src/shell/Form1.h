@@ -284,7 +284,8 @@ public:
     // Selects the next row and starts its job, unless the run was stopped or this was the last.
     bool SelectNextRow();
     void EndOfEncodingRun();
-    void ReleaseEncoderFiles();  // the encoder's call with "rem.wav", its "no job"
+    void ReleaseEncoderFiles();   // the encoder's call with "rem.wav", its "no job"
+    void WriteEncoderSettings();  // the bit rate and sample rate lists' numbers
     void DeleteTemporaryWav();
     void ACD_ExtractProgress(std::int32_t perMille);
     void ACD_ExtractFinished();
@@ -323,7 +324,6 @@ public:
     double ExtractStart = 0, BladeStart = 0;
     std::int64_t BladeProcess = 0;
     std::int32_t EncodeStep = 0;
-    std::int32_t EncoderBitRate = 0, EncoderSampleRate = 0;
     bool SearchRunning = false;
     QStringList Titles;  // 0-based here; entry i is the label text source of Titles(i + 1)
     std::int16_t TitleCount = 0, TitleTop = 0;

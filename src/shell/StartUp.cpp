@@ -66,14 +66,8 @@ void Form1::Form_Load() {
     tryStep([&] { cboSampleRate.setListIndex(1); });
     tryStep([&] { cboBitRate.setListIndex(8); });
     tryStep([&] { InitCD(); });
-    tryStep([&] {
-        EncoderBitRate = 128000;
-        C.encoder.setEncoderBitRate(128000);
-    });
-    tryStep([&] {
-        EncoderSampleRate = 44100;
-        C.encoder.setEncoderSampleRate(44100);
-    });
+    tryStep([&] { C.encoder.setEncoderBitRate(128000); });
+    tryStep([&] { C.encoder.setEncoderSampleRate(44100); });
     tryStep([&] { M.Volume = 35; });
     tryStep([&] { M.Bass = 50; });
     tryStep([&] { M.Treble = 50; });

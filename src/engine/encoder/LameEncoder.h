@@ -8,6 +8,7 @@
 // Threading: every call is for the event loop's thread. The worker posts EncodeProgress at
 // each whole per cent and EncodeFinished once per started job, also after StopEncoding.
 #include <QString>
+#include <cmath>
 #include <memory>
 
 #include "controls/Mp3Encoder.h"
@@ -23,7 +24,7 @@ public:
     // kbit/s; a value in bit/s (the start-up's 128000) is taken as such.
     void setEncoderBitRate(double bitRate) override;
     // Hz; 0 keeps the WAV's rate.
-    void setEncoderSampleRate(double sampleRate) override { sampleRate_ = int(sampleRate); }
+    void setEncoderSampleRate(double sampleRate) override { sampleRate_ = int(std::lround(sampleRate)); }
     std::int16_t OpenFiles(const QString& wavFile, const QString& mp3File) override;
     // In sample frames of the WAV.
     std::int32_t EncodeTotal() override { return total_; }

@@ -18,7 +18,6 @@ protected:
         views = std::make_unique<Views>(programOn(data));
         start();
         if (form1().DatabaseAttached == 0) form1().Form_Activate();
-        tc.dialogs.clear();
         settle();
     }
 

@@ -168,7 +168,6 @@ TEST_F(MainWindowTest, TheDialogsScanAndAddFacesShowTheirControlsAndAnswer) {
 // control is the skin unit tests' to check.
 TEST_F(MainWindowTest, SkinsTheBuiltInLookTheOtherSkinsAndPlaying) {
     start();
-    tc.dialogs.clear();
     Form1& f = form1();
     saveScreenshot(main(), "skin-default.png");
     press("imgDataBase");

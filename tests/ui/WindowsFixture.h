@@ -34,6 +34,11 @@ protected:
     }
 
     MainWindow& main() { return views->main(); }
+    // The program's entry procedure, and the windows brought up to date with what it did.
+    void start() {
+        program().Main();
+        settle();
+    }
     // The sheets of the skin in `dir` become loadable through the fake loader, decoded by the
     // real one, so the windows wear the skin the program is given.
     void registerSkin(const QString& dir) {

@@ -16,10 +16,8 @@ protected:
         ProgramFixture::SetUp();
         registerSkin(Form1::BuiltInSkin);
         views = std::make_unique<Views>(programOn(data));
-        program().Main();
-        settle();
+        start();
         if (form1().DatabaseAttached == 0) form1().Form_Activate();
-        tc.dialogs.clear();
         settle();
     }
 

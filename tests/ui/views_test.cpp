@@ -11,8 +11,7 @@ class ViewsTest : public WindowsFixture {
 protected:
     void SetUp() override {
         WindowsFixture::SetUp();
-        program().Main();
-        settle();
+        start();
     }
     // Records the mouse and click events of a control in `log`, as "down 1 0 45 30", "click"...
     void record(Control& c) {

@@ -176,14 +176,6 @@ TEST_F(Id3v1Test, EditorWritesOnlyWhatWasSetSinceOpenUnderAnyCaseOfTheName) {
     EXPECT_TRUE(editor.writeTag());
     EXPECT_FALSE(QFile::exists(path("song.MP3")));
     EXPECT_EQ(readFile("Song.mp3"), audio + id3v1Block("One", "Two", "Three", "1970", "Later", 5));
-
-    // Opening a file without a tag: empty getters, and the first write creates the tag.
-    writeFile(audio, "Bare.mp3");
-    editor.open(path("bare.mp3"));
-    EXPECT_EQ(editor.tag(), Id3v1Tag{});
-    editor.changes().year = 2024;
-    EXPECT_TRUE(editor.writeTag());
-    EXPECT_EQ(readFile("Bare.mp3"), audio + id3v1Block("", "", "", "2024", "", 255));
 }
 
 TEST_F(Id3v1Test, AnotherToolReadsOurTagsAndWeReadItsTags) {

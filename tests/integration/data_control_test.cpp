@@ -10,20 +10,20 @@
 #include <QTemporaryDir>
 
 #include "QtPrinters.h"
+#include "TestComponents.h"
 #include "engine/data/JetLikePattern.h"
 #include "engine/data/JetTranslator.h"
 #include "engine/data/SqliteDataControl.h"
 #include "fixtures/ErrorNumber.h"
 #include "fixtures/Files.h"
-#include "fixtures/LibraryStatements.h"
 #include "fixtures/ReadOnlyFolder.h"
 #include "fixtures/ToolRunner.h"
+#include "shell/Program.h"
 
 namespace sonarium {
 namespace {
 
 using fixtures::fileBytes;
-using fixtures::libraryStatements;
 
 QString sqliteTool(const QString& file, const QString& query) {
     QByteArray out;
@@ -33,18 +33,27 @@ QString sqliteTool(const QString& file, const QString& query) {
 
 class DataControlTest : public ::testing::Test {
 protected:
+    // Each test starts on a new library, open on its song table.
+    void SetUp() override {
+        makeLibrary(library);
+        open(library);
+    }
+
     QString path(const QString& name) const { return dir.filePath(name); }
 
-    QString makeLibrary(const QString& name = "SonariumData.mdb") {
+    // A library as the program makes it: its own statements through a data control of its own.
+    void makeLibrary(const QString& file) {
         SqliteDataControl maker;
-        auto db = maker.CreateDatabase(path(name), ";LANGID=0x0409;CP=1252;COUNTRY=0");
-        for (const QString& s : libraryStatements()) db->Execute(s);
-        return path(name);
+        TestComponents tc;
+        const Components c = tc.components();
+        Components withMaker{c.loop,      c.dialogs, c.desktop,     c.pictures, c.volumes, c.mp3,
+                             c.mp32,      c.encoder, c.cd,          c.mixer,    c.peak,    maker,
+                             c.processes, c.errors,  c.commandLine, c.startDir};
+        Program(withMaker).form1.MakeDatabase(file);
     }
 
     void open(const QString& file, const QString& source = "SongData") {
         data.setDatabaseName(file);
-        data.setConnect(";PWD=qvdnhzr;");
         data.setRecordSource(source);
         data.Refresh();
     }
@@ -67,38 +76,29 @@ protected:
         return values;
     }
 
-    QStringList artistsWhere(const QString& filter) {
-        data.setRecordSource("Select * From SongData Where " + filter + " Order By [Path\\File]");
-        data.Refresh();
-        return column("Artist");
-    }
-
     // Every Update is a commit that waits for the disk; in memory, where there is a memory file
     // system, the tests don't measure the disk.
     QTemporaryDir dir{QFileInfo("/dev/shm").isWritable() ? "/dev/shm/sonarium-data-XXXXXX" : QString()};
+    const QString library = path("SonariumData.mdb");
     SqliteDataControl data;
 };
 
 // How the library's statements become SQLite's is seen in what they find and refuse below;
 // here, the text that is not one statement of the dialect and fails before SQLite sees it.
 TEST(JetTranslation, TextOutsideTheDialectFailsWithItsOwnNumber) {
-    struct Bad {
-        QString jet;
-        int number;
-    };
     // A quote inside a value is the Like test's and FindFirst's.
-    const Bad bad[] = {
+    const std::pair<QString, int> bad[] = {
         {"Select * From SongData Where [Artist Like \"x\"", 3126},
         {"Delete * From SongData; Drop Table SongData", 3142},
         {"Select * From SongData Group By Artist", 3131},
         {"Select * From SongData Where Year = `1`", 3075},
         {"Vacuum", 3129},
     };
-    for (const Bad& b : bad) {
-        const bool select = b.jet.startsWith("Select");
-        const int n =
-            errorOf([&] { select ? (void)translateRecordSource(b.jet) : (void)translateStatement(b.jet); });
-        EXPECT_EQ(n, b.number) << b.jet.toStdString();
+    for (const auto& [jet, number] : bad) {
+        const bool select = jet.startsWith("Select");
+        EXPECT_EQ(errorOf([&] { select ? (void)translateRecordSource(jet) : (void)translateStatement(jet); }),
+                  number)
+            << jet.toStdString();
     }
     // Two minus signs stay two operators, never a comment that hides the rest.
     EXPECT_EQ(translateRecordSource("Select * From SongData Where Year > 1 --1 Order By Year").where,
@@ -139,7 +139,6 @@ TEST(JetLike, WildcardsListsCaseAndAccents) {
 // The Like above, in SQLite's hands; And before Or is the criteria unit test's matter
 // (criteria_test.cpp), a view that stays on a broken statement the grid's (grid_test.cpp).
 TEST_F(DataControlTest, LikeFiltersRowsTheDialectsWay) {
-    open(makeLibrary());
     int n = 0;
     for (const char* artist : {"Émile", "emile", "José", "O'Brien"})
         add(QString("/m/%1.mp3").arg(++n), artist);
@@ -148,8 +147,10 @@ TEST_F(DataControlTest, LikeFiltersRowsTheDialectsWay) {
         {"[Artist] Like \"*O'B*\"", {"O'Brien"}},
         {"[Album] Like \"\"", {}},  // nulls match nothing
     };
-    for (const auto& [filter, artists] : filters)
-        EXPECT_EQ(artistsWhere(filter), artists) << filter.toStdString();
+    for (const auto& [filter, artists] : filters) {
+        open(library, "Select * From SongData Where " + filter + " Order By [Path\\File]");
+        EXPECT_EQ(column("Artist"), artists) << filter.toStdString();
+    }
     data.setRecordSource("Select * From SongData Where [Artist] Like \"Say \"Hi\"\" ");
     EXPECT_EQ(errorOf([&] { data.Refresh(); }), 3075);
     data.setRecordSource("Select * From SongData Where [Artist] Like \"[x\"");
@@ -157,7 +158,6 @@ TEST_F(DataControlTest, LikeFiltersRowsTheDialectsWay) {
 }
 
 TEST_F(DataControlTest, RecordCountAndPositionsFollowTheVisitedRecords) {
-    open(makeLibrary());
     Recordset& rs = data.recordset();
     EXPECT_EQ(rs.RecordCount(), 0);
     EXPECT_TRUE(rs.BOF() && rs.EOF_());
@@ -199,8 +199,6 @@ TEST_F(DataControlTest, RecordCountAndPositionsFollowTheVisitedRecords) {
 }
 
 TEST_F(DataControlTest, EditingAddsChangesDeletesAndRefusesBadRecords) {
-    const QString file = makeLibrary();
-    open(file);
     Recordset& rs = data.recordset();
     add("/m/one.mp3", "One");
     add("/m/two.mp3", "Two");
@@ -227,7 +225,7 @@ TEST_F(DataControlTest, EditingAddsChangesDeletesAndRefusesBadRecords) {
     rs.Fields("Path\\File").setValue("/M/ONE.MP3");  // the key ignores case, as the scanner does
     EXPECT_EQ(errorOf([&] { rs.Update(); }), 3022);
     EXPECT_EQ(rs.RecordCount(), 1);
-    EXPECT_EQ(sqliteTool(file, "select count(*) from SongData"), "2");  // nothing reached the file
+    EXPECT_EQ(sqliteTool(library, "select count(*) from SongData"), "2");  // nothing reached the file
     rs.Fields("Path\\File").setValue("/m/three.mp3");
     rs.Update();  // the same pending record, now good
     EXPECT_EQ(rs.RecordCount(), 2);
@@ -240,7 +238,7 @@ TEST_F(DataControlTest, EditingAddsChangesDeletesAndRefusesBadRecords) {
     EXPECT_EQ(errorOf([&] { rs.Fields("Artist").Value(); }), 3167);
     rs.MoveNext();
     EXPECT_EQ(rs.Fields("Artist").Value().toString(), "Two");
-    EXPECT_EQ(sqliteTool(file, "select \"Path\\File\" from SongData order by rowid"),
+    EXPECT_EQ(sqliteTool(library, "select \"Path\\File\" from SongData order by rowid"),
               "/m/two.mp3\n/m/three.mp3");
 
     // Deleting the last records leaves no current record and a count of 0.
@@ -252,43 +250,31 @@ TEST_F(DataControlTest, EditingAddsChangesDeletesAndRefusesBadRecords) {
     EXPECT_EQ(errorOf([&] { rs.MoveLast(); }), 3021);
 }
 
-TEST_F(DataControlTest, TransactionsCommitTogetherAndRollBack) {
-    const QString file = makeLibrary();
-    open(file);
+TEST_F(DataControlTest, ATransactionCommitsItsRecordsTogether) {
     Database& db = data.database();
     db.BeginTrans();
     add("/m/a.mp3", "A");
     EXPECT_EQ(errorOf([&] { add("/m/a.mp3", "again"); }), 3022);  // fails alone
     data.recordset().CancelUpdate();
     add("/m/b.mp3", "B");
-    EXPECT_EQ(sqliteTool(file, "select count(*) from SongData"), "0") << "nothing shows before the commit";
+    EXPECT_EQ(sqliteTool(library, "select count(*) from SongData"), "0") << "nothing shows before the commit";
     db.CommitTrans();
-    EXPECT_EQ(sqliteTool(file, "select group_concat(Artist) from SongData"), "A,B");
-
-    db.BeginTrans();
-    add("/m/c.mp3", "C");
-    db.Rollback();
-    EXPECT_EQ(sqliteTool(file, "select count(*) from SongData"), "2");
-    EXPECT_NE(errorOf([&] { db.CommitTrans(); }), 0) << "no transaction is open";
-    db.BeginTrans();  // and none was left open by the failed commit
-    db.CommitTrans();
+    EXPECT_EQ(sqliteTool(library, "select group_concat(Artist) from SongData"), "A,B");
 }
 
 TEST_F(DataControlTest, LibrariesOnAReadOnlyMediumOpenForReading) {
-    const QString live = makeLibrary("live.mdb");
-    open(live);
     add("/m/1.mp3", "One");
     add("/m/2.mp3", "Two");
     // Left on the write-ahead log with no log beside it, as a copy closing while another had
     // it open leaves it, or a file copied alone.
-    ASSERT_TRUE(QFile::copy(live, path("logged.mdb")));
+    ASSERT_TRUE(QFile::copy(library, path("logged.mdb")));
     EXPECT_EQ(sqliteTool(path("logged.mdb"), "pragma journal_mode=wal"), "wal");
     // What a crash leaves: the last commit only in the log, and no index of the log.
     data.database().BeginTrans();
     add("/m/3.mp3", "Three");
     data.database().CommitTrans();
-    ASSERT_TRUE(QFile::copy(live, path("crashed.mdb")) &&
-                QFile::copy(live + "-wal", path("crashed.mdb-wal")));
+    ASSERT_TRUE(QFile::copy(library, path("crashed.mdb")) &&
+                QFile::copy(library + "-wal", path("crashed.mdb-wal")));
 
     const QString report = fixtures::throughReadOnlyFolder(dir.path(), [&] {
         QString r;
@@ -315,12 +301,11 @@ TEST_F(DataControlTest, LibrariesOnAReadOnlyMediumOpenForReading) {
 }
 
 TEST_F(DataControlTest, FindFirstSearchesTheViewFromItsTop) {
-    open(makeLibrary(), "Select * From SongData Order By [Album] ");
-    Recordset& rs = data.recordset();
     add("/m/1.mp3", "Bob", "Zeta");
     add("/m/2.mp3", "Bobby", "Alpha");
     add("/m/3.mp3", "Ann", "Mid");
-    data.Refresh();
+    open(library, "Select * From SongData Order By [Album] ");
+    Recordset& rs = data.recordset();
     rs.MoveLast();
 
     rs.FindFirst("[Artist] LIKE '*bob*'");
@@ -338,15 +323,13 @@ TEST_F(DataControlTest, FindFirstSearchesTheViewFromItsTop) {
 }
 
 TEST_F(DataControlTest, NewLibraryKeepsItsRulesAndTheToolReadsIt) {
-    const QString file = makeLibrary("SonariumData.mdb");
-    EXPECT_EQ(errorOf([&] { data.CreateDatabase(file, ""); }), 3204);  // never over an existing file
+    EXPECT_EQ(errorOf([&] { data.CreateDatabase(library, ""); }), 3204);  // never over an existing file
 
-    // The fields and their widths are the library unit tests' matter (database_test.cpp).
     open(path("Sonariumdata.mdb"));  // the starting name differs in case only
     add("/music/Song.mp3", "Ärzte");
-    EXPECT_EQ(sqliteTool(file, "select Artist from SongData"), "Ärzte");
+    EXPECT_EQ(sqliteTool(library, "select Artist from SongData"), "Ärzte");
     // The key and width rules are the file's own: they hold for Execute and for the tool too.
-    EXPECT_EQ(sqliteTool(file, "insert into SongData(\"Path\\File\", Year) values('/y', '12345')"),
+    EXPECT_EQ(sqliteTool(library, "insert into SongData(\"Path\\File\", Year) values('/y', '12345')"),
               "<failed>");
     EXPECT_EQ(errorOf([&] {
                   data.database().Execute("Insert Into SongData ([Path\\File], Year) Values ('/y', 12345)");
@@ -361,22 +344,19 @@ TEST_F(DataControlTest, NewLibraryKeepsItsRulesAndTheToolReadsIt) {
     EXPECT_EQ(data.recordset().Fields("Artist").Value().toString(), "Ärzte");
 
     // A library made anew over the one in use: Refresh opens the new file, not the old one.
-    ASSERT_TRUE(QFile::remove(file));
-    makeLibrary("SonariumData.mdb");
+    makeLibrary(library);
     data.Refresh();
     EXPECT_EQ(data.recordset().RecordCount(), 0);
 }
 
 TEST_F(DataControlTest, BadFilesFailCleanlyAndStayAsTheyWere) {
-    const QString good = makeLibrary("good.mdb");
-    open(good);
     for (int i = 0; i < 150; ++i) add(QString("/m/%1.mp3").arg(i), QString("Artist %1").arg(i), "Album");
 
     auto write = [&](const QString& name, const QByteArray& bytes) {
         EXPECT_TRUE(fixtures::writeFile(path(name), bytes));
         return path(name);
     };
-    QByteArray scribbled = fileBytes(good);
+    QByteArray scribbled = fileBytes(library);
     for (qsizetype i = 4096; i < 8192; ++i) scribbled[i] = char(0x5A);  // the table's first page
 
     struct BadFile {

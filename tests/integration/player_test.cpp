@@ -174,6 +174,20 @@ TEST_F(PlayerRunTest, EveryStartedRunEndsWithExactlyOneStreamEnd) {
     h.finish(2);
     EXPECT_EQ(h.ends, 2);
     EXPECT_EQ(std::vector<int>(h.frames.end() - 3, h.frames.end()), range(70, 72));
+
+    // A run started from inside the end's handler, as the queue starts its next song there:
+    // the chain goes on, each run ending once.
+    const auto recordEnd = h.player.onStreamEnd;
+    h.player.onStreamEnd = [&] {
+        recordEnd();
+        if (h.ends < 3 && h.player.Open(mp3, "") == 0) h.player.PlayRange(0, 2);
+    };
+    h.clear();
+    ASSERT_EQ(h.player.Open(mp3, ""), 0);
+    h.player.PlayRange(0, 2);
+    h.finish(3);
+    EXPECT_EQ(h.ends, 3);
+    EXPECT_EQ(h.frames, std::vector<int>({0, 1, 2, 0, 1, 2, 0, 1, 2}));
 }
 
 TEST_F(PlayerRunTest, PauseHoldsThePositionAndSeekMovesIt) {

@@ -27,8 +27,8 @@
 
 #include "BenchClock.h"
 #include "engine/data/SqliteDataControl.h"
-#include "fixtures/LibraryStatements.h"
 #include "fixtures/ToolRunner.h"
+#include "library/LibrarySchema.h"
 
 using namespace sonarium;
 
@@ -101,7 +101,7 @@ int main(int argc, char** argv) {
     {
         SqliteDataControl maker;
         auto db = maker.CreateDatabase(file, ";LANGID=0x0409;CP=1252;COUNTRY=0");
-        for (const QString& s : fixtures::libraryStatements()) db->Execute(s);
+        for (const QString& s : libraryStatements()) db->Execute(s);
     }
     std::printf("filling %d records: %.0f ms\n", records, timeMs([&] { fill(file, records); }));
 

@@ -3,6 +3,7 @@
 
 #include "controls/Errors.h"
 #include "controls/FileNames.h"
+#include "library/LibrarySchema.h"
 #include "shell/Form1.h"
 
 namespace sonarium {
@@ -10,25 +11,6 @@ namespace sonarium {
 namespace {
 const QString Locale = QStringLiteral(";LANGID=0x0409;CP=1252;COUNTRY=0");
 const QString Password = QStringLiteral(";PWD=qvdnhzr;");
-
-// The table and its indexes, in the order they are made. Index 16 is not used.
-QStringList schema() {
-    QStringList s = {QStringLiteral(
-        "Create Table SongData ( Path Text(80), File Text(50), [Song Title] Text(30), Artist Text(30), "
-        "Album Text(30), Comment Text(30), Genre Text(30), Duration Text(8), Year Text(4), Tempo Text(30), "
-        "Lyricist Text(30), Composer Text(30), [Key] Text(20), [Web Address] Text(40), [E-Mail] Text(30), "
-        "Info Memo, [Path\\File] Text(100));")};
-    const char* indexed[] = {"Path",     "File",     "[Song Title]", "Artist",        "Album",
-                             "Comment",  "Genre",    "Duration",     "Year",          "Tempo",
-                             "Lyricist", "Composer", "[Key]",        "[Web Address]", "[E-Mail]"};
-    int n = 1;
-    for (const char* column : indexed)
-        s << QStringLiteral("Create Index NewIndex%1 On SongData(%2) With Ignore Null;")
-                 .arg(n++)
-                 .arg(QLatin1String(column));
-    s << QStringLiteral("Create Index NewIndex17 On SongData([Path\\File]) With Primary;");
-    return s;
-}
 
 FileDialogRequest databaseDialog(const QString& appDir) {
     FileDialogRequest request;
@@ -44,7 +26,7 @@ void Form1::MakeDatabase(const QString& file) {
     if (QFile::exists(existing) && !QFile::remove(existing))
         throw RuntimeError(RuntimeError::PermissionDenied, QStringLiteral("Permission denied"));
     std::unique_ptr<Database> db = C.data.CreateDatabase(file, Locale);
-    for (const QString& statement : schema()) db->Execute(statement);
+    for (const QString& statement : libraryStatements()) db->Execute(statement);
 }
 
 void Form1::mnuCreateDatabase_Click() {

@@ -15,6 +15,7 @@
 #include "controls/FileListBox.h"
 #include "controls/FileNames.h"
 #include "integration/fixtures/ErrorNumber.h"
+#include "integration/fixtures/Files.h"
 
 namespace sonarium {
 namespace {
@@ -35,8 +36,7 @@ protected:
         return root + u'/' + rel;
     }
     void touch(const QString& rel) {
-        QFile f(root + u'/' + rel);
-        EXPECT_TRUE(f.open(QIODevice::WriteOnly)) << rel.toStdString();
+        EXPECT_TRUE(fixtures::writeFile(root + u'/' + rel, {})) << rel.toStdString();
     }
     void symlink(const QString& to, const QString& rel) { EXPECT_TRUE(QFile::link(to, root + u'/' + rel)); }
     // The drive lists' text of the volume mounted at `root`.

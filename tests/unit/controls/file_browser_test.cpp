@@ -39,12 +39,6 @@ protected:
         EXPECT_TRUE(fixtures::writeFile(root + u'/' + rel, {})) << rel.toStdString();
     }
     void symlink(const QString& to, const QString& rel) { EXPECT_TRUE(QFile::link(to, root + u'/' + rel)); }
-    // The drive lists' text of the volume mounted at `root`.
-    QString drive(const QString& root) {
-        for (const Volume& v : volumes.list())
-            if (v.root == root) return driveText(v);
-        return {};
-    }
 
     QTemporaryDir tmp;
     QString root, a, b;
@@ -67,7 +61,7 @@ TEST_F(FileBrowser, DriveListFollowsVolumesAndNamesTheDriveOfAPath) {
 
     // A path names the drive that holds it; the same drive again is no change.
     list.setDrive(b + "/deep/er");
-    list.setDrive(drive(b));
+    list.setDrive(driveText({b, "Beta"}));
     EXPECT_EQ(list.ListIndex(), 1);
     EXPECT_EQ(changes, 1);
 
@@ -77,18 +71,17 @@ TEST_F(FileBrowser, DriveListFollowsVolumesAndNamesTheDriveOfAPath) {
     list.setListIndex(0);
     EXPECT_EQ(errorOf([&] { list.setDrive("/nowhere/at/all"); }), RuntimeError::DeviceUnavailable);
     EXPECT_EQ(errorOf([&] { list.setListIndex(3); }), RuntimeError::InvalidPropertyValue);
-    EXPECT_EQ(list.Drive(), drive(a));
+    EXPECT_EQ(list.Drive(), driveText({a, "Alpha"}));
     EXPECT_EQ(changes, 2);
 
     // A medium that arrives later is found when it is named, and Refresh drops one that left.
     const QString usb = mkdir("usb");
     volumes.add(usb);
     list.setDrive(usb + "/Songs");
-    const QString usbText = drive(usb);
     volumes.remove(usb);
     list.Refresh();
     EXPECT_EQ(list.ListCount(), 3);
-    EXPECT_EQ(list.Drive() + " " + QString::number(list.ListIndex()), usbText + " -1");
+    EXPECT_EQ(list.Drive() + " " + QString::number(list.ListIndex()), driveText({usb, "usb"}) + " -1");
 }
 
 TEST_F(FileBrowser, ListingsAndChangesFollowTheDiskAndAFailedPathChangesNothing) {
@@ -141,7 +134,7 @@ TEST_F(FileBrowser, ListingsAndChangesFollowTheDiskAndAFailedPathChangesNothing)
     // The drive text moves to the last folder a list showed on that drive (the scan's start
     // shows it); one that was removed since falls back to the drive's root.
     ASSERT_TRUE(QDir(music).removeRecursively());
-    dir.setPath(drive(a));
+    dir.setPath(driveText({a, "Alpha"}));
     EXPECT_EQ(dir.Path(), a);
 }
 

@@ -45,4 +45,14 @@ protected:
     std::unique_ptr<Program> prog;
 };
 
+// The program started on the fakes, as a first start leaves it, with no dialog recorded yet.
+class StartedProgramFixture : public ProgramFixture {
+protected:
+    void SetUp() override {
+        ProgramFixture::SetUp();
+        program().Main();
+        tc.dialogs.clear();
+    }
+};
+
 }  // namespace sonarium

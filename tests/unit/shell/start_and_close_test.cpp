@@ -119,13 +119,12 @@ TEST_F(Config, ShortHandEditedAndFailingFiles) {
     }
 }
 
-using Shutdown = ProgramFixture;
+using Shutdown = StartedProgramFixture;
 
 // Closing writes the twelve settings byte for byte: at first the first start's defaults, as a
 // missing file leaves them; then every field of a full file read at start is written back as it
 // was, but the mini mode: quitting from the mini player makes the next start open the main window.
 TEST_F(Shutdown, ClosingWritesTheTwelveSettingsByteForByteAndLeavesMiniMode) {
-    program().Main();
     EXPECT_FALSE(form1().QueryUnload()) << "the close runs to its end itself";
     const QByteArray expected = " 0 \r\n 0 \r\n" + path("SonariumData.mdb").toUtf8() +
                                 "\r\n 3465 \r\n 1 \r\n" + dir.path().toUtf8() +
@@ -145,7 +144,6 @@ TEST_F(Shutdown, ClosingWritesTheTwelveSettingsByteForByteAndLeavesMiniMode) {
 }
 
 TEST_F(Shutdown, ASecondCloseRequestDuringTheWaitIsIgnored) {
-    program().Main();
     M().SongPlaying = true;
     int quitsSeenInside = -1;
     tc.loop.startTimer(
@@ -162,7 +160,6 @@ TEST_F(Shutdown, ASecondCloseRequestDuringTheWaitIsIgnored) {
 }
 
 TEST_F(Shutdown, TheStickMenusQuitEndsAtOnceWithoutSavingAndASignalSavesWithoutWaiting) {
-    program().Main();
     M().SongPlaying = true;
     form1().SQuit.Click();
     EXPECT_EQ(tc.desktop.quitCode(), 0);

@@ -1,36 +1,33 @@
 #pragma once
-// The data control as the shell sees it: it keeps the three settings and records them, Refresh,
-// created databases and the calls to its own database (itself) in the call log. Its record set is empty,
-// with no current record; the library's own tests use the real SQLite engine on temporary
-// files instead of a second, imitated one.
+// The data control as the shell sees it: it keeps the three settings, and its database (itself)
+// takes every statement. Its record set is empty, with no current record; the library's own tests
+// use the real SQLite engine on temporary files instead of a second, imitated one.
 #include <memory>
 
-#include "CallLog.h"
 #include "controls/DataControl.h"
 #include "controls/Errors.h"
 
 namespace sonarium {
 
-class FakeDataControl : public DataControl, public Database, public CallLog {
+class FakeDataControl : public DataControl, public Database {
 public:
     QString DatabaseName() const override { return databaseName_; }
-    void setDatabaseName(const QString& file) override { set("DatabaseName", databaseName_, file); }
+    void setDatabaseName(const QString& file) override { databaseName_ = file; }
     QString Connect() const override { return connect_; }
-    void setConnect(const QString& connect) override { set("Connect", connect_, connect); }
+    void setConnect(const QString& connect) override { connect_ = connect; }
     QString RecordSource() const override { return recordSource_; }
-    void setRecordSource(const QString& source) override { set("RecordSource", recordSource_, source); }
-    void Refresh() override { record("Refresh"); }
+    void setRecordSource(const QString& source) override { recordSource_ = source; }
+    void Refresh() override {}
     Database& database() override { return *this; }
     Recordset& recordset() override { return records_; }
-    std::unique_ptr<Database> CreateDatabase(const QString& file, const QString& locale) override {
-        record("CreateDatabase", file, locale);
-        return std::make_unique<FakeDataControl>();  // a fake of its own, whose log nobody reads
+    std::unique_ptr<Database> CreateDatabase(const QString&, const QString&) override {
+        return std::make_unique<FakeDataControl>();
     }
-    void Execute(const QString& statement) override { record("Execute", statement); }
-    void Close() override { record("Close"); }
-    void BeginTrans() override { record("BeginTrans"); }
-    void CommitTrans() override { record("CommitTrans"); }
-    void Rollback() override { record("Rollback"); }
+    void Execute(const QString&) override {}
+    void Close() override {}
+    void BeginTrans() override {}
+    void CommitTrans() override {}
+    void Rollback() override {}
 
 private:
     // No rows: every move or field access fails as the engine does without a current record.
@@ -63,11 +60,6 @@ private:
             throw RuntimeError(3265, QStringLiteral("Item not found in this collection."));
         }
     };
-
-    void set(const char* name, QString& property, const QString& value) {
-        record(QLatin1String(name) + u'=' + value);
-        property = value;
-    }
 
     // Empty at first: the starting properties are the form's to set, as for the real one.
     QString databaseName_, connect_, recordSource_;

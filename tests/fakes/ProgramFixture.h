@@ -8,6 +8,7 @@
 #include <memory>
 
 #include "TestComponents.h"
+#include "integration/fixtures/Files.h"
 #include "shell/Program.h"
 
 namespace sonarium {
@@ -20,22 +21,12 @@ protected:
     }
     void TearDown() override { prog.reset(); }
 
-    Program& program() {
-        if (!prog) {
-            components = std::make_unique<Components>(tc.components());
-            prog = std::make_unique<Program>(*components);
-            tc.pictures.clearCalls();  // the built-in skin's tries, made as the window is built
-        }
-        return *prog;
-    }
+    Program& program() { return prog ? *prog : programOn(tc.data); }
     // The program on the fakes, but with `data` as its data control (a real library).
     Program& programOn(DataControl& data) {
-        Components c = tc.components();
-        components = std::make_unique<Components>(
-            Components{c.loop, c.dialogs, c.desktop, c.pictures, c.volumes, c.mp3, c.mp32, c.encoder, c.cd,
-                       c.mixer, c.peak, data, c.processes, c.errors, c.commandLine, c.startDir});
+        components = std::make_unique<Components>(tc.components(data));
         prog = std::make_unique<Program>(*components);
-        tc.pictures.clearCalls();
+        tc.pictures.clearCalls();  // the built-in skin's tries, made as the window is built
         return *prog;
     }
     Form1& form1() { return program().form1; }
@@ -43,20 +34,25 @@ protected:
     Module1& M() { return program().M; }
 
     QString path(const QString& name) const { return dir.filePath(name); }
-    QByteArray read(const QString& name) const {
-        QFile f(path(name));
-        return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray();
-    }
+    QByteArray read(const QString& name) const { return fixtures::fileBytes(path(name)); }
     void write(const QString& name, const QByteArray& bytes) const {
-        QFile f(path(name));
-        ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-        f.write(bytes);
+        ASSERT_TRUE(fixtures::writeFile(path(name), bytes));
     }
 
     QTemporaryDir dir;
     TestComponents tc;
     std::unique_ptr<Components> components;
     std::unique_ptr<Program> prog;
+};
+
+// The program started on the fakes, as a first start leaves it, with no dialog recorded yet.
+class StartedProgramFixture : public ProgramFixture {
+protected:
+    void SetUp() override {
+        ProgramFixture::SetUp();
+        program().Main();
+        tc.dialogs.clear();
+    }
 };
 
 }  // namespace sonarium

@@ -57,7 +57,7 @@ ScriptedDialogs::Answer ScriptedDialogs::take(Shown shown) {
 }
 
 MsgResult ScriptedDialogs::msgBox(const QString& text, MsgButtons buttons, MsgIcon, const QString& title) {
-    Shown s{Kind::MsgBox, text, title, buttons};
+    Shown s{Kind::MsgBox, text, title};
     if (autoOk_ && buttons == MsgButtons::OK && (script_.empty() || script_.front().kind != Kind::MsgBox)) {
         shown_.push_back(std::move(s));
         return MsgResult::OK;

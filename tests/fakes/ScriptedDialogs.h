@@ -21,8 +21,6 @@ public:
         Kind kind = Kind::MsgBox;
         QString text = {};   // message or prompt; file dialogs: their title; popup: the menu's Name
         QString title = {};  // message and input boxes
-        MsgButtons buttons = MsgButtons::OK;
-        FileDialogRequest file = {};  // file dialogs
     };
 
     // --- Script (each adds one answer at the end) ---
@@ -47,10 +45,10 @@ public:
         return take({Kind::InputBox, prompt, title}).text;
     }
     QString openFile(const FileDialogRequest& request) override {
-        return fileDialog(Kind::OpenFile, request);
+        return take({Kind::OpenFile, request.title}).text;
     }
     QString saveFile(const FileDialogRequest& request) override {
-        return fileDialog(Kind::SaveFile, request);
+        return take({Kind::SaveFile, request.title}).text;
     }
     MenuItem* popupMenu(MenuItem& menu) override;
     // No test scripts a colour, a printer or a directory: these fail the test and are cancelled.
@@ -78,9 +76,6 @@ private:
     // Records the dialog and takes the next answer if it is of the dialog's kind; otherwise
     // fails the test and gives the cancelling answer.
     Answer take(Shown shown);
-    QString fileDialog(Kind kind, const FileDialogRequest& request) {
-        return take({.kind = kind, .text = request.title, .file = request}).text;
-    }
 
     std::deque<Answer> script_;
     std::vector<Shown> shown_;

@@ -3,6 +3,7 @@
 // a test scripts them directly: `tc.mp3.addFile(...)`, `tc.dialogs.answer(MsgResult::Yes)`.
 // The loop is declared first so that it outlives every fake that schedules on it.
 #include "CollectedErrors.h"
+#include "FakeConversion.h"
 #include "FakeDataControl.h"
 #include "FakeDesktop.h"
 #include "FakeMixer.h"
@@ -10,7 +11,6 @@
 #include "FakePictureLoader.h"
 #include "FakePlayer.h"
 #include "FakeVolumes.h"
-#include "FakeConversion.h"
 #include "ScriptedDialogs.h"
 #include "VirtualEventLoop.h"
 #include "controls/Components.h"
@@ -38,9 +38,10 @@ struct TestComponents {
     // Every machine has its root volume; tests add more.
     TestComponents() { volumes.add(QStringLiteral("/"), QStringLiteral("System")); }
 
-    Components components() {
-        return Components{loop, dialogs, desktop, pictures, volumes,   mp3,    mp32,        encoder,
-                          cd,   mixer,   peak,    data,     processes, errors, commandLine, startDir};
+    // The fakes, with `dataControl` as the data control: `data`, or a real library.
+    Components components(DataControl& dataControl) {
+        return Components{loop, dialogs, desktop, pictures,    volumes,   mp3,    mp32,        encoder,
+                          cd,   mixer,   peak,    dataControl, processes, errors, commandLine, startDir};
     }
 };
 

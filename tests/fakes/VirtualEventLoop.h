@@ -3,7 +3,7 @@
 //
 // Work is one queue ordered by (due time, order of scheduling). Time moves only when a test
 // calls advance(), or when a wait inside a handler has nothing ready and moves the clock on to
-// the next due item (up to a limit the test sets). A wait that can never end, or handlers that
+// the next due item (at most a minute on). A wait that can never end, or handlers that
 // nest too deep, throw WaitStuck instead of hanging.
 //
 // Single-threaded: unlike the real loop, post() here is not meant to be called from threads.
@@ -61,10 +61,10 @@ public:
             }
             if (queue_.empty()) stuck(QStringLiteral("nothing is scheduled (at %1 ms)").arg(now_));
             const std::int64_t next = queue_.begin()->first.due;
-            if (next > start + waitLimit_)
+            if (next > start + kWaitLimitMs)
                 stuck(QStringLiteral(
                           "nothing falls due within %1 ms of the wait's start at %2 ms (next at %3 ms)")
-                          .arg(QString::number(waitLimit_), QString::number(start), QString::number(next)));
+                          .arg(QString::number(kWaitLimitMs), QString::number(start), QString::number(next)));
             now_ = next;
             passes = 0;
             runPass();
@@ -82,30 +82,17 @@ public:
         }
         now_ = std::max(now_, target);
     }
-    // Runs all that is due now, including work posted meanwhile; the clock does not move.
-    void runUntilIdle() {
-        int runs = 0;
-        while (hasReady()) {
-            if (++runs > kMaxPassesWithoutTime)
-                stuck(QStringLiteral("work keeps posting more work at %1 ms").arg(now_));
-            runItem(queue_.begin());
-        }
-    }
     // The wall clock reads `dt` at this moment, and moves on with the virtual clock.
     void setWallClock(const QDateTime& dt) { wallBase_ = dt.addMSecs(-now_); }
-    // How far a wait may move the clock on, counted from the moment the wait began.
-    void setWaitLimit(std::int64_t ms) { waitLimit_ = ms; }
-    // How many doEvents/waitUntil may nest before the loop gives up.
-    void setMaxDepth(int depth) { maxDepth_ = depth; }
-
-    // --- Looking in (tests) ---
-    // Number of doEvents/waitUntil currently open.
-    int depth() const { return depth_; }
 
 private:
     // Work that keeps re-posting itself at the same instant would spin for ever; past this many
     // passes without the clock moving, the loop gives up with WaitStuck.
     static constexpr int kMaxPassesWithoutTime = 100000;
+    // How far a wait may move the clock on, counted from the moment the wait began.
+    static constexpr std::int64_t kWaitLimitMs = 60000;
+    // How many doEvents/waitUntil may nest before the loop gives up.
+    static constexpr int kMaxDepth = 64;
 
     struct Key {
         std::int64_t due;
@@ -130,11 +117,11 @@ private:
         throw WaitStuck(("wait cannot make progress: " + why).toStdString());
     }
     using OpenWait = std::unique_ptr<int, decltype([](int* d) { --*d; })>;
-    // One more open wait for the life of the result; past maxDepth_ nested waits the loop gives up.
+    // One more open wait for the life of the result; past kMaxDepth nested waits the loop gives up.
     OpenWait enterWait() {
-        if (depth_ >= maxDepth_)
+        if (depth_ >= kMaxDepth)
             stuck(QStringLiteral("more than %1 nested waits; a handler keeps waiting inside itself")
-                      .arg(maxDepth_));
+                      .arg(kMaxDepth));
         ++depth_;
         return OpenWait(&depth_);
     }
@@ -185,8 +172,6 @@ private:
     std::uint64_t nextSeq_ = 0;
     TimerId lastTimer_ = 0;
     QDateTime wallBase_{QDate(2024, 1, 1), QTime(12, 0)};
-    std::int64_t waitLimit_ = 60000;
-    int maxDepth_ = 64;
     int depth_ = 0;
 };
 

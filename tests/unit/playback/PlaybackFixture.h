@@ -6,15 +6,9 @@
 
 namespace sonarium {
 
-class PlaybackFixture : public ProgramFixture {
+class PlaybackFixture : public StartedProgramFixture {
 protected:
     static constexpr int SongMs = 2600;  // 100 frames at the fake's 26 ms a frame
-
-    void SetUp() override {
-        ProgramFixture::SetUp();
-        program().Main();
-        tc.dialogs.clear();
-    }
 
     // Rows added as a user adds them: text, then the directory at the new index.
     void queue(const QStringList& titles, const QString& dir = QStringLiteral("/m/")) {

@@ -40,7 +40,7 @@ TEST_F(Mixer, FirstStartCreatesAnEmptyFileAndSavingWritesDefaultsAndQueue) {
     EXPECT_TRUE(read("Mixer.dat").endsWith("/q/\r\nS500\r\n/q/\r\nS501\r\n/q/\r\nS502\r\n"));
 }
 
-TEST_F(Mixer, SongToneFilesAndTheReturnToDefaults) {
+TEST_F(Mixer, SongToneFilesTheReturnToDefaultsAndASlidersDrag) {
     Form1& f = form1();
     queue({"Loud", "Half", "Plain"}, dir.path() + u'/');
     write("Loud.TB", " 80 \r\n 20 \r\n");
@@ -66,13 +66,11 @@ TEST_F(Mixer, SongToneFilesAndTheReturnToDefaults) {
     f.SaveTB();
     EXPECT_TRUE(tc.mixer.calls().isEmpty());
     EXPECT_FALSE(QFile::exists(path(".TB")));
-}
 
-TEST_F(Mixer, SlidersFollowTheDragWithinTheirTravel) {
-    Image& bass = form1().SliderBass;
+    // A dragged slider follows within its travel, 81 twips a unit, and sends its value at once.
+    Image& bass = f.SliderBass;
     const double half = bass.Height() / 2.0;
     bass.MouseDown(LeftButton, 0, 0, half);
-    // Within its travel, and 81 twips a unit.
     for (auto [dy, value] : {std::pair{-10000.0, 100}, {10000.0, 0}, {-81.0 * 3, 30}}) {
         bass.MouseMove(LeftButton, 0, 0, half + dy);
         EXPECT_EQ(M().Bass, value);

@@ -48,7 +48,7 @@ protected:
 
 using StartUp = ProgramFixture;
 
-TEST_F(StartUp, AFirstStartLeavesTheInitTraceAndSetsTheEncoderAndTheTone) {
+TEST_F(StartUp, AFirstStartLeavesTheInitTraceSetsTheEncoderAndTheToneAndSwallowsF4) {
     program().Main();
     EXPECT_EQ(read("Debug.dat"), lines("Init", {1, 2, 3, 4, 5, 6, 7, 8}));
     // No Bladeenc beside the program: the Blade entry is chosen and disabled at once.
@@ -57,6 +57,11 @@ TEST_F(StartUp, AFirstStartLeavesTheInitTraceAndSetsTheEncoderAndTheTone) {
     // Tone: bass then treble to the pairs the mixer reported.
     EXPECT_EQ(tc.mixer.calls(),
               QStringList({"OpenMixer", "SetControlValue(2,102,0,50)", "SetControlValue(1,101,0,50)"}));
+    // F4 is swallowed unless the editor or the library has the window.
+    tc.dialogs.setAutoAnswerOk(true);  // F4 on an empty queue says so
+    EXPECT_TRUE(form1().KeyDown(115, 0));
+    form1().mnuDatabase.setChecked(true);  // the library's panel (the editor's is the same test)
+    EXPECT_FALSE(form1().KeyDown(115, 0));
 }
 
 // In mini mode the load leaves its own trace; a peak meter with no peak control stops the
@@ -79,34 +84,18 @@ TEST_F(StartUp, MiniModeLeavesTheLoadTraceAndTheMetersStepsStopWhereTheyFail) {
 }
 
 TEST_F(StartUp, TheCommandLineIsTakenWhole) {
-    struct Case {
-        const char* line;
-        QStringList rows;
-        const char* dir;
-    };
-    const Case cases[] = {
-        {"/home/me/My Music/A, B.MP3", {"A, B"}, "/home/me/My Music/"},
-        {"Song.Mp3", {"Song"}, ""},     // no directory: relative to the current one
-        {"/home/me/Song.wav", {}, ""},  // not an MP3: ignored
-    };
-    for (const Case& c : cases) {
+    for (auto [line, row, songDir] : {std::tuple{"/home/me/My Music/A, B.MP3", "A, B", "/home/me/My Music/"},
+                                      {"Song.Mp3", "Song", ""},  // no directory: relative to the current one
+                                      {"/home/me/Song.wav", "", ""}}) {  // not an MP3: ignored
         prog.reset();
-        tc.commandLine = QString::fromUtf8(c.line);
-        if (!c.rows.isEmpty()) tc.mp3.addFile(QString::fromUtf8(c.dir) + c.rows[0] + ".MP3", 380, 10.0f);
+        tc.commandLine = line;
+        tc.mp3.addFile(QString(songDir) + row + ".MP3", 380, 10.0f);
         form1().CheckForSong();
-        EXPECT_EQ(form1().lstSongs.rows(), c.rows) << c.line;
-        EXPECT_EQ(M().SongPath[0], QString::fromUtf8(c.dir)) << c.line;
-        EXPECT_EQ(form1().lstSongs.ListIndex(), c.rows.isEmpty() ? -1 : 0) << c.line;
+        EXPECT_EQ(form1().lstSongs.rows(), *row ? QStringList({row}) : QStringList()) << line;
+        EXPECT_EQ(M().SongPath[0], songDir) << line;
+        EXPECT_EQ(form1().lstSongs.ListIndex(), *row ? 0 : -1) << line;
     }
     EXPECT_TRUE(tc.dialogs.shown().empty()) << "no message for a refused argument";
-}
-
-TEST_F(StartUp, F4IsSwallowedUnlessTheEditorOrTheLibraryHasTheWindow) {
-    tc.dialogs.setAutoAnswerOk(true);  // F4 on an empty queue says so
-    program().Main();
-    EXPECT_TRUE(form1().KeyDown(115, 0));
-    form1().mnuDatabase.setChecked(true);  // the library's panel (the editor's is the same test)
-    EXPECT_FALSE(form1().KeyDown(115, 0));
 }
 
 TEST_F(Config, ShortHandEditedAndFailingFiles) {
@@ -130,34 +119,31 @@ TEST_F(Config, ShortHandEditedAndFailingFiles) {
     }
 }
 
-using Shutdown = ProgramFixture;
+using Shutdown = StartedProgramFixture;
 
-TEST_F(Shutdown, ClosingWritesTheTwelveSettingsByteForByte) {
-    program().Main();
+// Closing writes the twelve settings byte for byte: at first the first start's defaults, as a
+// missing file leaves them; then every field of a full file read at start is written back as it
+// was, but the mini mode: quitting from the mini player makes the next start open the main window.
+TEST_F(Shutdown, ClosingWritesTheTwelveSettingsByteForByteAndLeavesMiniMode) {
     EXPECT_FALSE(form1().QueryUnload()) << "the close runs to its end itself";
-    // The first start's defaults, as a missing file leaves them.
     const QByteArray expected = " 0 \r\n 0 \r\n" + path("SonariumData.mdb").toUtf8() +
                                 "\r\n 3465 \r\n 1 \r\n" + dir.path().toUtf8() +
                                 "\r\n 0 \r\n 10000 \r\n 0 \r\n\r\n00:00\r\n 0 \r\n";
     EXPECT_EQ(read("Config.dat"), expected);
     EXPECT_TRUE(tc.mp3.calls().contains("Close"));
     EXPECT_FALSE(tc.peak.prepared()) << "the meter's buffer is freed";
-}
 
-// Every field of a full file is read at start and written back as it was, but the mini mode:
-// quitting from the mini player makes the next start open the main window.
-TEST_F(Shutdown, QuitWritesBackEveryFieldItReadAndLeavesMiniMode) {
     const QByteArray rest =
         " 1 \r\n/db/Ünïcode Songs.mdb\r\n 1920 \r\n 0 \r\n/skins/Blue\r\n 1 \r\n 20000 \r\n 1 \r\n"
         "/skins/Deck\r\n07:30\r\n 1 \r\n";
     write("Config.dat", " 1 \r\n" + rest);
+    prog.reset();
     program().Main();
     form1().mnuQuit.Click();
     EXPECT_EQ(read("Config.dat"), " 0 \r\n" + rest);
 }
 
 TEST_F(Shutdown, ASecondCloseRequestDuringTheWaitIsIgnored) {
-    program().Main();
     M().SongPlaying = true;
     int quitsSeenInside = -1;
     tc.loop.startTimer(
@@ -174,7 +160,6 @@ TEST_F(Shutdown, ASecondCloseRequestDuringTheWaitIsIgnored) {
 }
 
 TEST_F(Shutdown, TheStickMenusQuitEndsAtOnceWithoutSavingAndASignalSavesWithoutWaiting) {
-    program().Main();
     M().SongPlaying = true;
     form1().SQuit.Click();
     EXPECT_EQ(tc.desktop.quitCode(), 0);

@@ -4,6 +4,7 @@
 #include <QTemporaryDir>
 
 #include "integration/fixtures/ErrorNumber.h"
+#include "integration/fixtures/Files.h"
 #include "shell/TextFields.h"
 
 using namespace sonarium;
@@ -20,9 +21,7 @@ TEST(TextFieldWriter, NumbersCarrySignStringsStandBareAndSaveReplacesTheWholeFil
     TextFieldWriter shorter;
     shorter.writeNumber(1);
     shorter.save(file);
-    QFile f(file);
-    ASSERT_TRUE(f.open(QIODevice::ReadOnly));
-    EXPECT_EQ(f.readAll(), QByteArray(" 1 \r\n"));
+    EXPECT_EQ(fixtures::fileBytes(file), QByteArray(" 1 \r\n"));
     EXPECT_THROW(shorter.save(dir.filePath("missing/Config.dat")), RuntimeError);
 }
 

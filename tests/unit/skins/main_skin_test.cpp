@@ -10,13 +10,8 @@ using namespace sonarium::mainskin;
 
 namespace {
 
-class MainSkin : public ProgramFixture {
+class MainSkin : public StartedProgramFixture {
 protected:
-    void SetUp() override {
-        ProgramFixture::SetUp();
-        program().Main();
-        tc.dialogs.clear();
-    }
     // A skin directory: the library background as a file on disk (its presence is what the
     // load looks for), the sheets through the picture loader, and the colour file if given.
     QString skin(const QString& name, const QByteArray* colours = nullptr, int panelsWidth = PanelsMinWidth) {

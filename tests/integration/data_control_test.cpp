@@ -45,11 +45,8 @@ protected:
     void makeLibrary(const QString& file) {
         SqliteDataControl maker;
         TestComponents tc;
-        const Components c = tc.components();
-        Components withMaker{c.loop,      c.dialogs, c.desktop,     c.pictures, c.volumes, c.mp3,
-                             c.mp32,      c.encoder, c.cd,          c.mixer,    c.peak,    maker,
-                             c.processes, c.errors,  c.commandLine, c.startDir};
-        Program(withMaker).form1.MakeDatabase(file);
+        Components c = tc.components(maker);
+        Program(c).form1.MakeDatabase(file);
     }
 
     void open(const QString& file, const QString& source = "SongData") {

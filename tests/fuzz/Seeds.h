@@ -21,8 +21,8 @@ std::vector<Seed> seedCorpus();
 // File names: case that differs, dots and doubled slashes, a looping symlink, a new name, and
 // a name of 50,000 components.
 std::vector<Seed> pathSeeds();
-// WAV files: 16-bit stereo, 8-bit and 24-bit mono, float, WAVE_FORMAT_EXTENSIBLE, one whose
-// header claims more data than it holds, one cut inside its header, and a RIFF of another kind.
+// WAV files: 16-bit stereo, 8-bit mono, float, WAVE_FORMAT_EXTENSIBLE, one whose header claims
+// more data than it holds, and a RIFF of another kind (the mutations cut files short).
 std::vector<Seed> wavSeeds();
 // CD image descriptions, each read as a .cue and as a .toc next to disc.bin: audio tracks with
 // gaps and a data track; a missing file, tracks backwards and past the data; nonsense.

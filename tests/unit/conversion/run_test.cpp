@@ -145,12 +145,6 @@ TEST_F(ConversionRun, WavToMp3AsksBeforeReplacingAndGoesDownTheQueue) {
     EXPECT_EQ(read("c.MP3"), "old");
 }
 
-}  // namespace
-}  // namespace sonarium
-
-namespace sonarium {
-namespace {
-
 // The external encoder on a source named with a blank: renamed without it for the job, copied
 // into the folder and run there on the command line built; the running time shown with its
 // rounding; at the end the copy gone and both files under the name with the blank. A stop
@@ -187,12 +181,6 @@ TEST_F(ConversionRun, BladeRenamesCopiesRunsWatchesAndPutsBackTheNames) {
     EXPECT_EQ(tc.dialogs.texts().last(), "Encoding aborted....");
     EXPECT_EQ(QDir(music).entryList(QDir::Files), QStringList({"My Song.WAV"}));
 }
-
-}  // namespace
-}  // namespace sonarium
-
-namespace sonarium {
-namespace {
 
 // The CD modes: entering lists the CD's tracks as rows (the carriage return, the unpadded
 // seconds, the title pane without the last four characters) and turns the window into the

@@ -8,12 +8,10 @@
 namespace sonarium {
 namespace {
 
-class ConversionRun : public ProgramFixture {
+class ConversionRun : public StartedProgramFixture {
 protected:
     void SetUp() override {
-        ProgramFixture::SetUp();
-        program().Main();
-        tc.dialogs.clear();
+        StartedProgramFixture::SetUp();
         tc.dialogs.setAutoAnswerOk(true);
         form1().CurrentDir = path("") + "/";
         form1().mnuInternal.setChecked(true);

@@ -49,13 +49,11 @@ void Slider::setRange(int mn, int mx) {
     notify();
 }
 
-void Slider::setValue(int v) {
-    if (v < min_ || v > max_)
-        throw RuntimeError(RuntimeError::InvalidPropertyValue, QStringLiteral("Invalid property value"));
-    if (v == value_) return;
-    value_ = v;
-    notify();
-    if (onChange) onChange();
+void Slider::setValue(int v) { set(value_, std::clamp(v, min_, max_)); }
+
+void Slider::Scroll(int v) {
+    setValue(v);
+    if (onScroll) onScroll();
 }
 
 const Picture& ImageList::ListImage(int index) const {

@@ -127,6 +127,8 @@ public:
     using Panel::Panel;
 };
 
+// A slider's value always lies in its range: a value set outside it stands at the nearer end.
+// Only the user's moves raise Scroll; the logic setting the value raises nothing.
 class Slider : public Control {
 public:
     using Control::Control;
@@ -134,12 +136,16 @@ public:
     int Max() const { return max_; }
     int Value() const { return value_; }
     void setRange(int mn, int mx);
-    // Setting another value fires the change event.
     void setValue(int v);
-    std::function<void()> onChange;
+    // Steps between ticks; 0 draws none.
+    int TickFrequency() const { return tick_; }
+    void setTickFrequency(int t) { set(tick_, t); }
+    // The user moved the knob to `v` (the view calls this).
+    void Scroll(int v);
+    std::function<void()> onScroll;
 
 private:
-    int min_ = 0, max_ = 10, value_ = 0;
+    int min_ = 0, max_ = 10, value_ = 0, tick_ = 0;
 };
 
 // Numbered pictures, from 1, as the image list keeps them.

@@ -172,11 +172,9 @@ void Form1::GetAudioTracks(int mode) {
 }
 
 void Form1::GetDriveList() {
-    tryStep([&] { form2.List1.Clear(); });
-    for (int d = 1; d <= C.cd.DriveCount(); ++d)
-        tryStep([&] { form2.List1.AddItem(C.cd.DriveName(std::int16_t(d))); });
-    tryStep([&] { form2.Show(C.loop, true); });
-    M.SelectedCDDrive = std::int16_t(form2.List1.ListIndex() + 1);
+    QStringList drives;
+    for (int d = 1; d <= C.cd.DriveCount(); ++d) tryStep([&] { drives << C.cd.DriveName(std::int16_t(d)); });
+    form2.ShowDrives(drives);
 }
 
 void Form1::cboBitRate_Click() {

@@ -113,7 +113,9 @@ bool Form1::GetSong(std::int16_t& index) {
     tryStep([&] { frmMiniPlayer.Picture1.Cls(); });
     tryStep([&] { frmMiniPlayer.Picture1.Print(M.MiniTitleText); });
     tryStep([&] { LoadTB(); });
-    tryStep([&] { chkUseInOut.setValue(M.PunchActive.at(std::size_t(row)) != 0 ? 1 : 0); });
+    // A row added since the punch dialog last sized the marks has none: it counts as off.
+    const bool punched = std::size_t(row) < M.PunchActive.size() && M.PunchActive[std::size_t(row)] != 0;
+    tryStep([&] { chkUseInOut.setValue(punched ? 1 : 0); });
     return result;
 }
 

@@ -59,6 +59,7 @@ void Form1::wireHandlers() {
     mnuBladeMinimised.onClick = [this] { ChooseBladeWindow(false); };
     cboBitRate.onClick = [this] { cboBitRate_Click(); };
     imgQuitEncoder.onClick = [this] { imgQuitEncoder_Click(); };
+    cmdSetPunchInOut.onClick = [this] { cmdSetPunchInOut_Click(); };
     lstSongs.onClick = [this] { lstSongs_Click(); };
 
     chkLoop.onClick = [this] { chkLoop_Click(); };

@@ -258,6 +258,7 @@ public:
     void mnuCDClose_Click();
     void cboBitRate_Click();
     void imgQuitEncoder_Click();
+    void cmdSetPunchInOut_Click();
     void ChooseEncoder(std::int16_t choice);
     void ChooseBladeWindow(bool invisible);
     // Mode 0 CD to WAV, 1 CD to MP3: enters the mode and lists the CD, or leaves the mode.

@@ -29,6 +29,9 @@ struct Module1 {
     std::array<QString, SongPathSize> SongPath;
     std::vector<std::int32_t> PunchStart, PunchEnd;
     std::vector<std::int16_t> PunchActive;
+    // The punch dialog's working values: the marks being set and the last frame heard.
+    std::int32_t PunchInFrame = 0, PunchOutFrame = 0, PunchPosition = 0;
+    std::int16_t PunchTesting = 0;  // set while the section plays; nothing reads it
     std::int16_t CurrentSong = 0;
     bool QueueClickOff = false;
 

@@ -11,6 +11,7 @@ Program::Program(Components& components)
       currentDirectory(components.startDir),
       driveDirectories(components.volumes, currentDirectory.path()),
       frmGeneral(components.volumes, driveDirectories, currentDirectory.path()),
+      form2(M, components),
       form1(M, components, currentDirectory, driveDirectories, frmGeneral, form2, frmMiniPlayer) {}
 
 // Every step that fails is skipped and the next one runs.

@@ -19,8 +19,8 @@ Views::Views(Program& program) {
     for (auto& lamp : mini.imgVU) miniControls.push_back(lamp.get());
     mini_ = std::make_unique<FormWindow>(mini, miniControls, program.C.errors);
     general_ = std::make_unique<GeneralWindow>(program.frmGeneral, program.C.errors, main_.get());
-    form2_ = std::make_unique<FormWindow>(program.form2, std::vector<Control*>{&program.form2.List1},
-                                          program.C.errors, main_.get(), Qt::Dialog);
+    form2_ = std::make_unique<FormWindow>(program.form2, program.form2.allControls(), program.C.errors,
+                                          main_.get(), Qt::Dialog);
 }
 
 Views::~Views() = default;

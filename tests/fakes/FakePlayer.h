@@ -79,8 +79,11 @@ public:
         else if (state_ == State::Ended)
             startRun(0);
     }
-    // The program never plays a range; the call is only recorded.
-    void PlayRange(std::int32_t from, std::int32_t to) override { record("PlayRange", from, to); }
+    // Frames from..to, the last one notified too, then the end.
+    void PlayRange(std::int32_t from, std::int32_t to) override {
+        record("PlayRange", from, to);
+        if (state_ != State::Closed) startRun(std::max(from, 0), std::min(to + 1, end_));
+    }
     void Pause() override {
         record("Pause");
         if (state_ != State::Playing) return;
@@ -154,8 +157,9 @@ private:
         auto it = files_.find(file_.toUpper());
         return state_ == State::Closed || it == files_.end() ? none : *it;
     }
-    void startRun(std::int32_t from) {
+    void startRun(std::int32_t from, std::int32_t stop = -1) {
         pos_ = from;
+        stop_ = stop < 0 ? end_ : stop;
         state_ = State::Playing;
         runToken_ = ends_.runStarted();
         startClock();
@@ -172,7 +176,7 @@ private:
     }
     void nextFrame() {
         timer_ = 0;  // its single shot is spent
-        if (++pos_ >= end_) return endRun();
+        if (++pos_ >= stop_) return endRun();
         // The next frame is due before the handler runs: it may wait inside, and the song plays on.
         startClock();
         if (interval_ > 0 && pos_ % interval_ == 0 && onFrameNotify) onFrameNotify(pos_);
@@ -206,7 +210,7 @@ private:
     StreamEndRule ends_;
     StreamEndRule::Token runToken_ = 0;
     QString file_;
-    std::int32_t pos_ = 0, end_ = 0;
+    std::int32_t pos_ = 0, end_ = 0, stop_ = 0;
     EventLoop::TimerId timer_ = 0;
     std::int16_t speed_ = 100, interval_ = 32;
 };

@@ -1,7 +1,7 @@
 // The converter in the program on the real components, on a CD image made here: CD to WAV gives
 // each track's samples byte for byte; CD to MP3 through LAME gives MP3s of the tracks' lengths
 // and leaves no temporary file; WAV to MP3 through the outside-encoder adapter keeps a name with
-// a blank.
+// a blank; MP3 to WAV with the punch dialog's section decodes exactly its frames.
 #include <gtest/gtest.h>
 
 #include <QDir>
@@ -47,6 +47,34 @@ TEST(ConversionIntegration, CdToWavCdToMp3AndWavToMp3ThroughTheAdapter) {
               QStringList({"Track01.MP3", "Track02.MP3", "Track03.MP3"}));
     EXPECT_FALSE(QFile::exists(dir.filePath("Temp.WAV")));
     f.mnuCDtoMP3.Click();
+
+    // MP3 to WAV of the longest track with the punch dialog's defaults switched on: frame 1 to
+    // 81 frames before the end, as the outside decoder gives them.
+    const QString punch = dir.filePath("punch") + "/";
+    ASSERT_TRUE(QDir(dir.path()).mkdir("punch") &&
+                QFile::copy(dir.filePath("Track03.MP3"), punch + "Track03.MP3"));
+    f.CurrentDir = punch;
+    f.mnuMP3ToWav.Click();
+    f.GetTitles();
+    f.Title_DblClick(0);
+    Form2& dialog = parts.program->form2;
+    parts.loop.post([&] {
+        dialog.chkPunchInOutActivate.setValue(1);
+        dialog.cmdPunchInOutOK.Click();
+    });
+    f.cmdSetPunchInOut.Click();
+    const int frames = dialog.PunchTotalFrames - 81;
+    ASSERT_GT(frames, 50);
+    f.BtnPlay.MouseDown(LeftButton, 0, 0, 0);
+    f.BtnPlay.MouseUp(LeftButton, 0, 0, 0);
+    parts.loop.waitUntil([&] { return !parts.program->M.SongPlaying; });
+    ASSERT_EQ(fixtures::mpg123ToWav(punch + "Track03.MP3", dir.filePath("section.wav"),
+                                    {"--no-gapless", "-k", "1", "-n", QString::number(frames)}),
+              0);
+    EXPECT_TRUE(fixtures::readWav(punch + "Track03.WAV").data ==
+                fixtures::readWav(dir.filePath("section.wav")).data);
+    EXPECT_EQ(fixtures::readWav(punch + "Track03.WAV").frames(), frames * 1152);
+    f.mnuMP3ToWav.Click();
 
     // WAV to MP3 through the project's outside-encoder adapter, on a song named with a blank in
     // a folder of its own: both files end under the name with the blank, and the copy of the

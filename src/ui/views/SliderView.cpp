@@ -7,7 +7,7 @@ SliderView::SliderView(Slider& model, ErrorReporter& errors, QWidget* parent)
     clickOnRelease_ = false;
     connect(this, &QSlider::valueChanged, this, [this](int v) {
         if (syncing_ || v == slider_.Value()) return;
-        feed([&] { slider_.setValue(v); });
+        feed([&] { slider_.Scroll(v); });
     });
 }
 
@@ -16,6 +16,8 @@ void SliderView::syncOwn() {
     setOrientation(slider_.Height() > slider_.Width() ? Qt::Vertical : Qt::Horizontal);
     setRange(slider_.Min(), slider_.Max());
     setValue(slider_.Value());
+    setTickPosition(slider_.TickFrequency() > 0 ? QSlider::TicksBelow : QSlider::NoTicks);
+    setTickInterval(slider_.TickFrequency());
     syncing_ = false;
 }
 

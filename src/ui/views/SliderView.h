@@ -1,6 +1,6 @@
 #pragma once
-// A slider: range and value follow the model; a value the user sets goes to the model, whose
-// change event fires. Upright when the control is taller than wide.
+// A slider: range and value follow the model; a value the user sets goes to the model as a
+// scroll. Upright when the control is taller than wide.
 #include <QSlider>
 
 #include "controls/Widgets.h"

@@ -57,6 +57,7 @@ void Form1::LeaveMode() {
     for (MenuItem* m : {&mnuCDtoMP3, &mnuCdToWav, &mnuWavToMp3, &mnuMP3ToWav}) m->setChecked(false);
     ShowButtonImage(BtnPlay, PlayAtRest);
     tryStep([&] { PanelCdToMP3.setVisible(false); });
+    UnparkQueue();
     tryStep([&] { LoadMixer(); });
     if (wav) {
         tryStep([&] { txtTrackTitle.setVisible(true); });
@@ -102,8 +103,7 @@ void Form1::mnuWavToMp3_Click() {
     tryStep([&] { C.mp3.Stop(); });
     tryStep([&] { C.mp3.Close(); });
     SetPunchControlsVisible(false);
-    tryStep([&] { SaveMixer(); });
-    tryStep([&] { lstSongs.Clear(); });
+    ParkQueue();
     // The result keeps the source's name, so the title has no use here.
     tryStep([&] { txtTrackTitle.setVisible(false); });
     tryStep([&] { Label11.setVisible(false); });
@@ -136,8 +136,7 @@ void Form1::GetAudioTracks(int mode) {
         return;
     }
     EnterMode();
-    tryStep([&] { SaveMixer(); });
-    tryStep([&] { lstSongs.Clear(); });
+    ParkQueue();
     (mode == 0 ? mnuCdToWav : mnuCDtoMP3).setChecked(true);
     tryStep([&] { C.mp3.Stop(); });
     tryStep([&] { C.mp3.Close(); });
@@ -164,6 +163,7 @@ void Form1::GetAudioTracks(int mode) {
         if (C.dialogs.msgBox(QStringLiteral("Error reading CD drive - Retry?"), MsgButtons::YesNo,
                              MsgIcon::Critical, QStringLiteral("CD")) != MsgResult::Yes) {
             mnuCDtoMP3.setChecked(false);
+            UnparkQueue();  // the mode is given up with the queue empty
             return;
         }
     }

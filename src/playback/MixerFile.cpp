@@ -24,11 +24,33 @@ void Form1::SaveMixer() {
     out.writeNumber(M.Bass);
     out.writeNumber(M.MiniTop);
     out.writeNumber(M.MiniLeft);
-    for (int i = 0; i < lstSongs.ListCount(); ++i) {
-        tryStep([&] { out.writeString(SongPathOf(i)); });
-        out.writeString(lstSongs.List(i));
+    if (queueParked_) {
+        for (const auto& [dir, name] : parkedQueue_) {
+            if (dir) out.writeString(*dir);
+            out.writeString(name);
+        }
+    } else {
+        for (int i = 0; i < lstSongs.ListCount(); ++i) {
+            tryStep([&] { out.writeString(SongPathOf(i)); });
+            out.writeString(lstSongs.List(i));
+        }
     }
     tryStep([&] { out.save(mixerFile(M.AppDir)); });
+}
+
+// A close, a signal, a change of bit rate or "Set as Defaults" in the middle of a conversion
+// would otherwise save the list of tracks or WAV files as the queue, and the listener's queue
+// would be gone for good.
+void Form1::ParkQueue() {
+    if (!queueParked_) {
+        parkedQueue_.clear();
+        for (int i = 0; i < lstSongs.ListCount(); ++i)
+            parkedQueue_.append({i < SongPathSize ? std::optional(M.SongPath[std::size_t(i)]) : std::nullopt,
+                                 lstSongs.List(i)});
+    }
+    tryStep([&] { SaveMixer(); });
+    queueParked_ = true;
+    tryStep([&] { lstSongs.Clear(); });
 }
 
 // Every read is its own statement: a number that can't be read leaves its variable as it was

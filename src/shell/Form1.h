@@ -9,6 +9,7 @@
 #include <QStringList>
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <utility>
 
 #include "controls/Components.h"
@@ -71,6 +72,10 @@ public:
     void InitCD();
     void LoadMixer();
     void SaveMixer();
+    // Saves the mixer and empties the queue list for conversion jobs; the listener's queue is
+    // kept aside, and every save until UnparkQueue writes it in the jobs' place.
+    void ParkQueue();
+    void UnparkQueue() { queueParked_ = false; }
     void PlaceSliders();
     void SendToneToMixer();
     void Drive1_Change();
@@ -338,6 +343,9 @@ public:
     void TimerMix_Timer();
     int DatabaseAttached = 0;  // the focus handler's own flag
     bool closing_ = false;
+    // Directory (none past the directory store) and name of each row.
+    QList<std::pair<std::optional<QString>, QString>> parkedQueue_;
+    bool queueParked_ = false;
 
     // The start-up trace, Debug.dat in the current directory.
     void traceOpen();

@@ -207,6 +207,8 @@ TEST_F(ConversionRun, CdModesListTheTracksSwitchLeaveAndRetry) {
     f.cboBitRate.Click();
     EXPECT_TRUE(f.mnuCDtoMP3.Checked() && f.lstSongs.ListCount() == 0) << "reread, the queue emptied";
     f.mnuCDtoMP3.Click();
+    // Its save on the way kept the listener's queue, not the track queued for the job.
+    EXPECT_EQ(f.lstSongs.rows(), QStringList({"queued song"}));
     tc.cd.tracks.clear();
     tc.dialogs.answer(MsgResult::Yes).answer(MsgResult::No);
     f.mnuCDtoMP3.Click();

@@ -64,9 +64,7 @@ void Form1::LeaveMode() {
         tryStep([&] { Label11.setVisible(true); });
         tryStep([&] { lstSongs.Clear(); });
     }
-    if (mp3)
-        for (Control* c : std::initializer_list<Control*>{&lblPunchInOut, &chkUseInOut, &cmdSetPunchInOut})
-            tryStep([&] { c->setVisible(false); });
+    if (mp3) SetPunchControlsVisible(false);
     if (cd || wav) tryStep([&] { Dir1_Change(); });
 }
 

@@ -196,6 +196,9 @@ void Form1::design() {
     place(cmdSetPunchInOut, &PicTopPanel, 300, 111, 30, 15);
     hint(cmdSetPunchInOut, "Set punch in/out");
     place(lblPunchInOut, &PicTopPanel, 334, 113, 80, 11);
+    // Punch in/out belongs to MP3 to WAV alone.
+    for (Control* c : std::initializer_list<Control*>{&chkUseInOut, &cmdSetPunchInOut, &lblPunchInOut})
+        c->setVisible(false);
     place(imgEncoder, &PicTopPanel, 440, 110, 159, 16);
     imgEncoder.setVisible(false);
     place(imgQuitEncoder, &PicTopPanel, 440, 128, 110, 15);

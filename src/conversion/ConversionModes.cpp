@@ -46,6 +46,12 @@ void Form1::ShowConversionPanel() {
 }
 
 void Form1::LeaveMode() {
+    // A job still running is stopped first, as Quit converter stops it: left to finish in the
+    // player's mode, its finish path would start the queue's next song.
+    if (ExtractRunning || EncodeRunning || TimerEnc.Enabled()) {
+        BtnStop_MouseDown(LeftButton, 0, 0, 0);
+        BtnStop_MouseUp(LeftButton, 0, 0, 0);
+    }
     const bool cd = mnuCDtoMP3.Checked() || mnuCdToWav.Checked(), wav = mnuWavToMp3.Checked(),
                mp3 = mnuMP3ToWav.Checked();
     tryStep([&] { mnuView.setEnabled(true); });

@@ -83,6 +83,7 @@ void Form1::CdPlay() {
     std::int16_t code = 1;
     tryStep([&] { code = C.cd.ExtractTrack(CurrentTrack, target); });
     if (code == 0) {
+        ExtractRunning = true;
         ExtractStart = ClockSeconds();
     } else {
         const QString text =
@@ -102,6 +103,7 @@ bool Form1::StartInternalEncoder(const QString& wav, const QString& mp3) {
     }
     tryStep([&] { EncodeStep = std::int32_t(roundHalfEven(C.encoder.EncodeTotal() / 100.0)); });
     tryStep([&] { C.encoder.StartEncoding(); });
+    EncodeRunning = true;
     return true;
 }
 
@@ -124,6 +126,7 @@ void Form1::ACD_ExtractProgress(std::int32_t perMille) {
 }
 
 void Form1::ACD_ExtractFinished() {
+    ExtractRunning = false;
     ShowLamp(false);
     // The drive gives no success flag, so an extraction that ended this soon is taken for a
     // failed read, unless the reader says it wrote the whole track: a CD image, or a fast drive
@@ -149,7 +152,8 @@ void Form1::ACD_ExtractFinished() {
     ReadRetries = 0;
     if (StopRequested) {
         StopRequested = false;
-        if (mnuCDtoMP3.Checked()) DeleteTemporaryWav();
+        // Also after the mode was left meanwhile: the temporary file is no one's but ours.
+        if (!mnuCdToWav.Checked()) DeleteTemporaryWav();
         return;
     }
     if (!mnuCDtoMP3.Checked()) {
@@ -176,6 +180,7 @@ void Form1::Mp3Enc_EncodeProgress(std::int32_t done) {
 }
 
 void Form1::Mp3Enc_EncodeFinished() {
+    EncodeRunning = false;
     ShowLamp(false);
     if (!mnuCDtoMP3.Enabled() && !mnuWavToMp3.Checked()) return;
     if (SelectNextRow()) return;

@@ -330,6 +330,7 @@ public:
     double ExtractStart = 0, BladeStart = 0;
     std::int64_t BladeProcess = 0;
     std::int32_t EncodeStep = 0;
+    bool ExtractRunning = false, EncodeRunning = false;  // a job started and not yet finished
     bool SearchRunning = false;
     QStringList Titles;  // 0-based here; entry i is the label text source of Titles(i + 1)
     std::int16_t TitleCount = 0, TitleTop = 0;

@@ -109,6 +109,14 @@ TEST_F(ConversionRun, StopInEachStateEndsTheRun) {
     stop();  // with nothing running: no job, no message
     tc.loop.advance(10000);
     EXPECT_EQ(calls(), QStringList());
+
+    // Leaving the mode mid-extraction stops the run first, and its temporary file goes.
+    form1().BtnPlay.MouseDown(LeftButton, 0, 0, 0);
+    play();
+    tc.loop.advance(1000);
+    form1().mnuCDtoMP3.Click();
+    tc.loop.advance(10000);
+    EXPECT_TRUE(files().isEmpty());
 }
 
 TEST_F(ConversionRun, FailedStartsSayWhyAndEndTheRun) {

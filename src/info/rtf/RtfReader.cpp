@@ -88,6 +88,10 @@ const std::unordered_map<std::string_view, Word> kWords = {
 };
 // clang-format on
 
+// Groups nested deeper than any word processor's share the state of the deepest one kept, so
+// that a file of nothing but open braces costs no memory for them.
+constexpr std::size_t kMaxDepth = 1000;
+
 // Sizes beyond any word processor's largest, 1638 points, are taken as that.
 constexpr int kMaxHalfPoints = 3276;
 
@@ -143,10 +147,17 @@ public:
             if (c == '{') {
                 flush();
                 skip_ = 0;
-                groups_.push_back(state());
+                if (groups_.size() < kMaxDepth)
+                    groups_.push_back(state());
+                else
+                    ++tooDeep_;
             } else if (c == '}') {
                 flush();
                 skip_ = 0;
+                if (tooDeep_ > 0) {
+                    --tooDeep_;
+                    continue;
+                }
                 if (groups_.size() <= 2) break;  // the document's own group closes
                 if (state().destination == Destination::FontTable) commitFont();
                 groups_.pop_back();
@@ -386,6 +397,7 @@ private:
     std::vector<GroupState> groups_;
     RichDocument doc_;
     int skip_ = 0;
+    qsizetype tooDeep_ = 0;  // groups open beyond kMaxDepth
     QChar high_;
     QByteArray pending_;
     int codePage_ = 1252;

@@ -21,7 +21,7 @@ namespace sonarium {
 
 // The most of a file that is read: bytes past it are ignored, as if the file ended there, so a
 // caller need not load more. Pages are text; this leaves room for some pictures among it while
-// keeping the document built from a hostile file to a few hundred megabytes at worst.
+// keeping what a hostile file makes the reader build to a few hundred megabytes at worst.
 constexpr qsizetype kMaxRtfBytes = 16 * 1024 * 1024;
 
 RichDocument readRtf(const QByteArray& bytes);

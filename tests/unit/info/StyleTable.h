@@ -10,8 +10,10 @@ namespace sonarium {
 // break, and empty paragraphs.
 inline const QList<RichDocument>& styleTable() {
     using namespace Qt::Literals::StringLiterals;
-    const CharFormat plain, bold{.bold = true}, italic{.italic = true}, underline{.underline = true};
-    const CharFormat sized{"Times New Roman", 14.5}, red{"Arial", 0, true, true, true, Color{255, 0, 0}};
+    const CharFormat plain, bold{"", 0, true, false, false, {}}, italic{"", 0, false, true, false, {}};
+    const CharFormat underline{"", 0, false, false, true, {}},
+        sized{"Times New Roman", 14.5, false, false, false, {}};
+    const CharFormat red{"Arial", 0, true, true, true, Color{255, 0, 0}};
     static const QList<RichDocument> docs = {
         {{{Alignment::Left, {{"a ", plain}, {"bold", bold}, {"italic", italic}, {"under", underline}}}}},
         {{{Alignment::Center, {{"Big", sized}, {"red", red}}}, {Alignment::Right, {{"right", plain}}}, {}}},

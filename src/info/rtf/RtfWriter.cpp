@@ -1,5 +1,6 @@
 #include "info/rtf/RtfWriter.h"
 
+#include <QHash>
 #include <QStringList>
 #include <algorithm>
 
@@ -7,6 +8,11 @@
 
 namespace sonarium {
 namespace {
+
+// The colour as one number, each part kept to 0..255.
+int rgb(const Color& c) {
+    return std::clamp(c.r, 0, 255) | std::clamp(c.g, 0, 255) << 8 | std::clamp(c.b, 0, 255) << 16;
+}
 
 class Writer {
 public:
@@ -59,11 +65,20 @@ private:
 QByteArray writeRtf(const RichDocument& doc) {
     // The fonts and colours the runs use, in order of first use, give the tables' numbers.
     QStringList fonts;
-    QList<Color> colors;
+    QList<int> colors;  // RGB values
+    QHash<QString, int> fontNumber;
+    QHash<int, int> colorNumber;  // by the colour's RGB value; colour 0 is the automatic one
     for (const Paragraph& p : doc.paragraphs) {
         for (const TextRun& r : p.runs) {
-            if (!r.format.font.isEmpty() && !fonts.contains(r.format.font)) fonts.append(r.format.font);
-            if (r.format.color && !colors.contains(*r.format.color)) colors.append(*r.format.color);
+            const CharFormat& f = r.format;
+            if (!f.font.isEmpty() && !fontNumber.contains(f.font)) {
+                fontNumber.insert(f.font, int(fonts.size()));
+                fonts.append(f.font);
+            }
+            if (f.color && !colorNumber.contains(rgb(*f.color))) {
+                colorNumber.insert(rgb(*f.color), int(colors.size()) + 1);
+                colors.append(rgb(*f.color));
+            }
         }
     }
     Writer w;
@@ -80,10 +95,10 @@ QByteArray writeRtf(const RichDocument& doc) {
     w.raw("}\r\n");
     if (!colors.isEmpty()) {
         w.raw("{\\colortbl;");
-        for (const Color& c : colors) {
-            w.word("\\red", std::clamp(c.r, 0, 255));
-            w.word("\\green", std::clamp(c.g, 0, 255));
-            w.word("\\blue", std::clamp(c.b, 0, 255));
+        for (const int c : colors) {
+            w.word("\\red", c & 0xFF);
+            w.word("\\green", c >> 8 & 0xFF);
+            w.word("\\blue", c >> 16);
             w.raw(";");
         }
         w.raw("}\r\n");
@@ -96,12 +111,13 @@ QByteArray writeRtf(const RichDocument& doc) {
         for (const TextRun& r : p.runs) {
             const CharFormat& f = r.format;
             w.word("\\plain");
-            if (!f.font.isEmpty()) w.word("\\f", int(fonts.indexOf(f.font)));
-            if (const int half = qRound(f.pointSize * 2); half > 0) w.word("\\fs", half);
+            if (!f.font.isEmpty()) w.word("\\f", fontNumber.value(f.font));
+            if (const int half = qRound(std::clamp(f.pointSize, 0.0, 1638.0) * 2); half > 0)
+                w.word("\\fs", half);
             if (f.bold) w.word("\\b");
             if (f.italic) w.word("\\i");
             if (f.underline) w.word("\\ul");
-            if (f.color) w.word("\\cf", int(colors.indexOf(*f.color)) + 1);
+            if (f.color) w.word("\\cf", colorNumber.value(rgb(*f.color)));
             w.text(r.text);
         }
     }

@@ -6,8 +6,9 @@
 // Paragraphs are separated by \par, and the document ends with its closing brace and CR LF.
 // Plain ASCII stays as it is, so a page reads in a text editor too.
 //
-// Sizes are written in half points, as RTF keeps them; control characters other than the tab
-// are left out. The same document always gives the same bytes.
+// Sizes are written in half points, as RTF keeps them, up to 1638 points, the most that word
+// processors know; control characters other than the tab are left out. The same document
+// always gives the same bytes.
 #include <QByteArray>
 
 #include "info/rtf/RichDocument.h"

@@ -11,7 +11,7 @@ BUILD_PACKAGES=(cmake ninja-build g++ pkg-config qt6-base-dev libgl-dev libegl-d
                 libgtest-dev fonts-dejavu-core xdg-utils)
 # What the tests and benchmarks need beyond that: reference tools, fixtures' encoder, fuzzing.
 TEST_PACKAGES=(xvfb xauth mpg123 lame cd-paranoia id3v2 clang libclang-rt-14-dev dbus playerctl sqlite3
-               clang-format)
+               clang-format enscript)
 
 as_root() {
     if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi

@@ -126,4 +126,20 @@ std::vector<Seed> cueSeeds() {
                "SILENCE -1\nFILE \"\" 0\n")}};
 }
 
+std::vector<Seed> rtfSeeds() {
+    return {
+        {"page", bytes("{\\rtf1\\ansi\\ansicpg1252\\deff0{\\fonttbl{\\f0\\fnil\\fcharset0 "
+                       "Arial;}}\r\n{\\colortbl;\\red255"
+                       "\\green0\\blue0;}\r\n\\pard\\qc\\plain\\b Hi\\plain  "
+                       "there\\par\r\n\\pard\\qr\\plain\\i\\cf1\\'dc"
+                       "\\u1046?\\tab\\line}\r\n{\\bc\\13156270;-bc}\r\n")},
+        {"editor",
+         bytes("{\\rtf1\\ansi\\ansicpg1251\\deff0{\\fonttbl{\\f0\\fswiss\\fcharset204{\\*\\panose 0}Arial;}"
+               "{\\f1\\fcharset128 MS Gothic;}}{\\*\\generator X}\\uc1\\pard\\f0\\fs20 \\'c0 {\\f1\\'82\\'a0}"
+               "\\u-10179?\\u-8694?{\\field{\\*\\fldinst HYPERLINK x}{\\fldrslt link}}\\emdash\\~\\par}")},
+        {"objects",
+         bytes("{\\rtf1 a{\\pict\\pngblip 89504e47}{\\object\\bin6 }}{{\\}{\\stylesheet{;}}\\uc0\\u8364 b")},
+    };
+}
+
 }  // namespace sonarium::fuzz

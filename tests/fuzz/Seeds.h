@@ -27,5 +27,9 @@ std::vector<Seed> wavSeeds();
 // CD image descriptions, each read as a .cue and as a .toc next to disc.bin: audio tracks with
 // gaps and a data track; a missing file, tracks backwards and past the data; nonsense.
 std::vector<Seed> cueSeeds();
+// RTF pages: one as the program writes it, with its marker line; one as an editor writes it, in
+// code pages 1251 and 932, with a field and a surrogate pair; pictures, binary data and braces
+// left open.
+std::vector<Seed> rtfSeeds();
 
 }  // namespace sonarium::fuzz

@@ -29,10 +29,10 @@ struct TextRun {
 };
 
 // The numbers are the editor's.
-enum class Alignment { Left = 0, Right = 1, Center = 2 };
+enum class ParagraphAlignment { Left = 0, Right = 1, Center = 2 };
 
 struct Paragraph {
-    Alignment alignment = Alignment::Left;
+    ParagraphAlignment alignment = ParagraphAlignment::Left;
     QList<TextRun> runs;
 
     // Adds text at the end, into the last run when its format is the same; empty text adds nothing.

@@ -23,7 +23,7 @@ struct GroupState {
     bool bold = false, italic = false, underline = false;
     int color = 0;
     int unicodeSkip = 1;  // \uc: the characters that stand in for each \u
-    Alignment alignment = Alignment::Left;
+    ParagraphAlignment alignment = ParagraphAlignment::Left;
 };
 
 enum class Kind {
@@ -258,8 +258,8 @@ private:
             s.font = -1, s.halfPoints = 0, s.color = 0;
             s.bold = s.italic = s.underline = false;
             break;
-        case Kind::Pard: s.alignment = Alignment::Left; break;
-        case Kind::Align: s.alignment = Alignment(w.value); break;
+        case Kind::Pard: s.alignment = ParagraphAlignment::Left; break;
+        case Kind::Align: s.alignment = ParagraphAlignment(w.value); break;
         case Kind::Unicode:
             if (param) unicode(*param);
             break;

@@ -6,7 +6,7 @@
 namespace sonarium {
 namespace {
 
-// By the numbers of Alignment.
+// By the numbers of ParagraphAlignment.
 constexpr Qt::Alignment kAlign[] = {Qt::AlignLeft, Qt::AlignRight, Qt::AlignHCenter};
 
 QTextCharFormat toQt(const CharFormat& f) {
@@ -56,9 +56,9 @@ RichDocument fromTextDocument(const QTextDocument& doc) {
     for (QTextBlock b = doc.begin(); b.isValid(); b = b.next()) {
         Paragraph p;
         const Qt::Alignment a = b.blockFormat().alignment() & Qt::AlignHorizontal_Mask;
-        p.alignment = a == Qt::AlignRight     ? Alignment::Right
-                      : a == Qt::AlignHCenter ? Alignment::Center
-                                              : Alignment::Left;
+        p.alignment = a == Qt::AlignRight     ? ParagraphAlignment::Right
+                      : a == Qt::AlignHCenter ? ParagraphAlignment::Center
+                                              : ParagraphAlignment::Left;
         for (auto it = b.begin(); !it.atEnd(); ++it)
             p.append(it.fragment().text(), fromQt(it.fragment().charFormat()));
         out.paragraphs.append(p);

@@ -15,9 +15,12 @@ inline const QList<RichDocument>& styleTable() {
         sized{"Times New Roman", 14.5, false, false, false, {}};
     const CharFormat red{"Arial", 0, true, true, true, Color{255, 0, 0}};
     static const QList<RichDocument> docs = {
-        {{{Alignment::Left, {{"a ", plain}, {"bold", bold}, {"italic", italic}, {"under", underline}}}}},
-        {{{Alignment::Center, {{"Big", sized}, {"red", red}}}, {Alignment::Right, {{"right", plain}}}, {}}},
-        {{{Alignment::Left,
+        {{{ParagraphAlignment::Left,
+           {{"a ", plain}, {"bold", bold}, {"italic", italic}, {"under", underline}}}}},
+        {{{ParagraphAlignment::Center, {{"Big", sized}, {"red", red}}},
+          {ParagraphAlignment::Right, {{"right", plain}}},
+          {}}},
+        {{{ParagraphAlignment::Left,
            {{u"caf\u00e9 \u20ac\t\u201cq\u201d\u2028\u0416 \u65e5 \U0001F600 \\{x};"_s, plain}}}}},
         {},
     };

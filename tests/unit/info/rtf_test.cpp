@@ -43,8 +43,9 @@ TEST(Rtf, DocumentsWrittenReadBackEqualAndASmallPageHasItsExactBytes) {
         EXPECT_EQ(show(readRtf(writeRtf(d))), show(d)) << writeRtf(d).data();
 
     const RichDocument page{
-        {{Alignment::Center, {{"Hi", {"", 0, true, false, false, {}}}, {" there", {}}}},
-         {Alignment::Right, {{u"\u00dc\u20ac\u0416\t"_s, {"", 0, false, true, false, Color{255, 0, 0}}}}}}};
+        {{ParagraphAlignment::Center, {{"Hi", {"", 0, true, false, false, {}}}, {" there", {}}}},
+         {ParagraphAlignment::Right,
+          {{u"\u00dc\u20ac\u0416\t"_s, {"", 0, false, true, false, Color{255, 0, 0}}}}}}};
     EXPECT_EQ(writeRtf(page),
               "{\\rtf1\\ansi\\ansicpg1252\\deff0{\\fonttbl{\\f0\\fnil\\fcharset0 Arial;}}\r\n"
               "{\\colortbl;\\red255\\green0\\blue0;}\r\n"

@@ -40,4 +40,16 @@ void Form1::SizePhoto() {
     tryStep([&] { Photo.setVisible(true); });
 }
 
+// The frame's two sizes, chosen from the photo's menu. The wide one is 3645, not the 3465 of
+// the layout: a wide frame stands a little left of its panel, and a photo that comes in at
+// 3645 is still sized.
+void Form1::PlacePhoto(int width) {
+    tryStep([&] { Photo.setWidth(width); });
+    PhotoWidth = std::int16_t(width);
+    Image8.setVisible(width == SquarePhotoWidth);
+    Image9.setVisible(width == SquarePhotoWidth);
+    tryStep([&] { Photo.setLeft(toInt32((FullPhotoWidth - Photo.Width()) / 2.0)); });
+    tryStep([&] { SaveConfig(); });
+}
+
 }  // namespace sonarium

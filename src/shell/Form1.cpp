@@ -89,6 +89,7 @@ void Form1::wireHandlers() {
     mnuSongSets.onClick = [this] { mnuSongSets_Click(); };
     mnuSongInfo.onClick = [this] { mnuSongInfo_Click(); };
     mnuPhoto.onClick = [this] { mnuPhoto_Click(); };
+    wireInfo();
     lstSongSets.onDblClick = [this] { lstSongSets_DblClick(); };
 
     cmdUpdateTag.onClick = [this] { UpdateTag(); };

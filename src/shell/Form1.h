@@ -243,14 +243,34 @@ public:
     void cmdSetTimeCancel_Click();
 
     // ---- Procedures of later work that loading and the transport call ----
-    void LoadRTF(const QString& file);      // info pages
-    void ClearRTF();                        // empties the info viewer
-    void GetRTF();                          // the directory's info pages
+    void LoadRTF(const QString& file);  // info pages
+    void ClearRTF();                    // empties the info viewer
+    void GetRTF();                      // the directory's info pages
+    // ---- Info viewer ----
+    void ShowPageNumber();
+    void ShowInfoPage();
+    void cmdInfoLeft_Click();
+    void cmdInfoRight_Click();
+    void tmrInfo_Timer();
+    void ShowNamedPage(const QString& name);
+    void cmdCurrentSongInfo_Click();
+    void mnuTimerOn_Click();
+    void mnuSetTimer_Click();
+    void SizeForInfo(bool viewer);
+    void SizeWithoutInfo();
+    void mnuInfo_Click();
+    void cmdCloseInfoViewer_Click();
+    void mnuEdit_Click();
+    void PlacePhoto(int width);
+    // The title pane's panel, which the info panel takes the place of.
+    Control& PanelTitles() { return PicTitleBoxes; }
     void LoadKaraoke(const QString& file);  // karaoke timings of the song
     void WriteKaraoke();                    // ends a karaoke recording
     void KaraokeFrame(std::int32_t frame);  // records and follows karaoke points
-    void CheckForBlade();                   // the external encoder's stop question
-    bool Mp3ToWavTargetOk();                // the overwrite question of MP3 to WAV
+    void FindText();                        // selects the word at the caret
+    void RT_Click();
+    void CheckForBlade();     // the external encoder's stop question
+    bool Mp3ToWavTargetOk();  // the overwrite question of MP3 to WAV
 
     // ---- Conversion: modes ----
     void mnuCDtoMP3_Click();
@@ -323,6 +343,7 @@ public:
     std::int32_t SongLength = 0, TotalFrames = 0, FramesPerSecond = 0;
     QString SongLengthText;
     std::int16_t PhotoWidth = 0;
+    std::int16_t InfoPage = 0, InfoPageCount = 0, RTIndex = 0;
     QString CurrentDir;
     QString LastDir;
     std::int32_t BarWidth = 0;
@@ -355,6 +376,8 @@ public:
 
 private:
     void wireHandlers();
+    void wireInfo();
+    void wireEditor();
     void design();
     QString traceText_;
     bool traceIsOpen_ = false;

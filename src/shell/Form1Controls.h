@@ -8,6 +8,7 @@
 #include "controls/FileListBox.h"
 #include "controls/Timer.h"
 #include "controls/Widgets.h"
+#include "info/RichTextBox.h"
 
 namespace sonarium {
 
@@ -94,6 +95,11 @@ struct Form1Controls {
         cmdInfoRight{"cmdInfoRight"}, btnGigGuide{"btnGigGuide"}, btnContact{"btnContact"},
         cmdCurrentSongInfo{"cmdCurrentSongInfo"}, cmdPrint{"cmdPrint"},
         cmdCloseInfoViewer{"cmdCloseInfoViewer"};
+    // The box of the pages; the program has one, RT(0), so RTIndex is always 0.
+    RichTextBox RT{"RT", 0};
+    Label lblInfoPageNumber{"lblInfoPageNumber"}, Label13{"Label13"};
+    Panel PanelViewButtons{"PanelViewButtons"}, PanelControls{"PanelControls"};
+    CommandButton cmdQuitEditor{"cmdQuitEditor"};
     ComboBox CboFontName{"CboFontName"}, CboFontSize{"CboFontSize"};
 
     // Alarm

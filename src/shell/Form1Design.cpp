@@ -252,14 +252,28 @@ void Form1::design() {
     layOutLibrary(*this);
     place(InfoPanel, nullptr, 0, 202, 634, 263);
     InfoPanel.setVisible(false);
-    // The info viewer's commands along the foot of its panel.
-    place(cmdInfoLeft, &InfoPanel, 6, 240, 10, 18);
-    place(cmdInfoRight, &InfoPanel, 18, 240, 10, 18);
-    place(btnGigGuide, &InfoPanel, 36, 241, 78, 17);
-    place(btnContact, &InfoPanel, 118, 241, 78, 17);
-    place(cmdCurrentSongInfo, &InfoPanel, 200, 241, 78, 17);
-    place(cmdPrint, &InfoPanel, 282, 241, 41, 17);
-    place(cmdCloseInfoViewer, &InfoPanel, 550, 241, 78, 17);
+    // The viewer's commands, or the editor's, along the top of the panel; the page under them.
+    place(PanelViewButtons, &InfoPanel, 0, 0, 634, 24);
+    place(PanelControls, &InfoPanel, 0, 0, 634, 24);
+    PanelViewButtons.setVisible(false);
+    PanelControls.setVisible(false);
+    place(RT, &InfoPanel, 6, 24, 622, 233);
+    RT.setDescription(QStringLiteral("Info page"));
+    place(cmdInfoLeft, &PanelViewButtons, 6, 3, 10, 18);
+    place(cmdInfoRight, &PanelViewButtons, 18, 3, 10, 18);
+    place(lblInfoPageNumber, &PanelViewButtons, 32, 5, 40, 15);
+    lblInfoPageNumber.setDescription(QStringLiteral("Page"));
+    place(btnGigGuide, &PanelViewButtons, 76, 4, 78, 17);
+    place(btnContact, &PanelViewButtons, 158, 4, 78, 17);
+    place(cmdCurrentSongInfo, &PanelViewButtons, 240, 4, 78, 17);
+    place(cmdPrint, &PanelViewButtons, 322, 4, 41, 17);
+    place(cmdCloseInfoViewer, &PanelViewButtons, 550, 4, 78, 17);
+    place(Label13, &PanelControls, 330, 5, 30, 15);
+    Label13.setCaption(QStringLiteral("Font"));
+    place(CboFontName, &PanelControls, 362, 2, 140, 20);
+    place(CboFontSize, &PanelControls, 506, 2, 44, 20);
+    place(cmdQuitEditor, &PanelControls, 554, 2, 76, 20);
+    cmdQuitEditor.setCaption(QStringLiteral("Quit Editor"));
     hint(cmdInfoLeft, "Previous page");
     hint(cmdInfoRight, "Next page");
     hint(btnGigGuide, "Gig guide");
@@ -290,8 +304,7 @@ void Form1::design() {
     // Source pictures and helper lists that are never seen.
     for (Control* hidden : std::initializer_list<Control*>{
              &imgMpeg3, &imgVUGreen, &imgVUAmber, &imgVURed, &imgVUPurple, &imgRedBall, &imgGreenBall,
-             &imgAutoUpdate, &imgCancelSearch, &Indent, &Button, &ButtonBlue, &List1, &ListGen, &Fillist,
-             &CboFontName, &CboFontSize})
+             &imgAutoUpdate, &imgCancelSearch, &Indent, &Button, &ButtonBlue, &List1, &ListGen, &Fillist})
         hidden->setVisible(false);
     List1.setSorted(true);
     for (int size : {8, 9, 10, 11, 12, 14, 16, 18, 20, 22, 24, 26, 28, 36, 72})

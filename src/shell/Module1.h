@@ -41,7 +41,9 @@ struct Module1 {
     std::int16_t LoopMode = 0;  // 0 off, 1 whole queue, 2 same song
     std::int16_t SongSpeed = 100;
     bool KaraokePlaying = false;
-    std::int32_t KaraokeIndex = 0, KaraokeCount = 0;  // every Play resets them
+    bool KaraokeMarkPending = false;
+    std::vector<std::int32_t> KaraokeFrames{0, 0}, KaraokeOffsets{0, 0};  // from index 1
+    std::int32_t KaraokeIndex = 0, KaraokeCount = 0;                      // every Play resets them
     bool KaraokeRecording = false;
     QString MiniTitleText;
     QString SongFile;
@@ -55,6 +57,11 @@ struct Module1 {
     std::int32_t MiniTop = 0, MiniLeft = 0;
     std::int32_t MiniSliderTop = 690, MiniSliderBottom = 1020;
     double MiniSliderStep = 3.3;
+
+    // Info pages: the folder's pages from index 1, the last element always empty; the parts of
+    // the last background colour read.
+    std::vector<QString> InfoFiles{QString(), QString()};
+    std::int16_t RedPart = 0, GreenPart = 0, BluePart = 0;
 
     // Conversion
     std::int16_t SelectedCDDrive = 0;

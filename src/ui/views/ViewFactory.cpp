@@ -17,6 +17,7 @@
 #include "ui/views/LabelView.h"
 #include "ui/views/ListBoxView.h"
 #include "ui/views/PanelView.h"
+#include "ui/views/RichTextView.h"
 #include "ui/views/SliderView.h"
 #include "ui/views/TextBoxView.h"
 
@@ -35,6 +36,7 @@ QWidget* made(Model& model, ErrorReporter& errors, QWidget* parent) {
 // box an image.
 QWidget* viewFor(Control& c, ErrorReporter& errors, QWidget* parent) {
     if (auto* m = dynamic_cast<DataGrid*>(&c)) return made<DataGridView>(*m, errors, parent);
+    if (auto* m = dynamic_cast<RichTextBox*>(&c)) return made<RichTextView>(*m, errors, parent);
     if (auto* m = dynamic_cast<CommandButton*>(&c)) return made<CommandButtonView>(*m, errors, parent);
     if (auto* m = dynamic_cast<Panel*>(&c)) return made<PanelView>(*m, errors, parent);
     if (auto* m = dynamic_cast<Image*>(&c)) {

@@ -42,6 +42,8 @@ public:
     virtual std::optional<Color> chooseColor(Color initial) = 0;
     // The printer set-up; false when cancelled.
     virtual bool printerSetup() = 0;
+    // Prints a page, given as RTF, on the printer that the set-up chose.
+    virtual void printPage(const QByteArray& rtf) {}
     // A directory, or "" when cancelled.
     virtual QString chooseDirectory(const QString& prompt, const QString& startDir) = 0;
     // Opens a menu's entries as a popup at the pointer; returns the entry chosen, or null.

@@ -261,6 +261,13 @@ public:
     void mnuInfo_Click();
     void cmdCloseInfoViewer_Click();
     void mnuEdit_Click();
+    void designToolbar();
+    void Toolbar_ButtonClick(const QString& key);
+    void ToolbarCommand(const QString& key);
+    QString AskRichTextFile(bool save);
+    Color AskColour();
+    void ArmKaraoke();
+    void cmdPrint_Click();
     void PlacePhoto(int width);
     // The title pane's panel, which the info panel takes the place of.
     Control& PanelTitles() { return PicTitleBoxes; }
@@ -344,6 +351,10 @@ public:
     QString SongLengthText;
     std::int16_t PhotoWidth = 0;
     std::int16_t InfoPage = 0, InfoPageCount = 0, RTIndex = 0;
+    // The file and colour dialog's state: whether a Cancel ends the command (set by the first
+    // save, for good) and the colour it last gave.
+    bool CancelError = false;
+    Color DialogColour;
     QString CurrentDir;
     QString LastDir;
     std::int32_t BarWidth = 0;

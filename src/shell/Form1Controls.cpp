@@ -45,7 +45,7 @@ std::vector<Control*> Form1Controls::allControls() const {
         &self->InfoPanel, &self->RT, &self->PanelViewButtons, &self->PanelControls, &self->imgViewInfo,
         &self->imgEditInfo, &self->cmdInfoLeft, &self->cmdInfoRight, &self->lblInfoPageNumber,
         &self->btnGigGuide, &self->btnContact, &self->cmdCurrentSongInfo, &self->cmdPrint,
-        &self->cmdCloseInfoViewer, &self->Label13, &self->CboFontName, &self->CboFontSize, &self->cmdQuitEditor,
+        &self->cmdCloseInfoViewer, &self->Label13, &self->CboFontName, &self->CboFontSize, &self->cmdQuitEditor, &self->Toolbar,
         &self->PanelAlarm, &self->lblAlarmHeading, &self->lblAlarmCaption, &self->lblAlarmTime,
         &self->lblHour, &self->lblMinute, &self->lstHour, &self->lstMinute, &self->cmdSetTimeOK,
         &self->cmdSetTimeCancel,

@@ -7,6 +7,7 @@
 #include "controls/DriveListBox.h"
 #include "controls/FileListBox.h"
 #include "controls/Timer.h"
+#include "controls/Toolbar.h"
 #include "controls/Widgets.h"
 #include "info/RichTextBox.h"
 
@@ -100,6 +101,7 @@ struct Form1Controls {
     Label lblInfoPageNumber{"lblInfoPageNumber"}, Label13{"Label13"};
     Panel PanelViewButtons{"PanelViewButtons"}, PanelControls{"PanelControls"};
     CommandButton cmdQuitEditor{"cmdQuitEditor"};
+    sonarium::Toolbar Toolbar{"Toolbar"};
     ComboBox CboFontName{"CboFontName"}, CboFontSize{"CboFontSize"};
 
     // Alarm

@@ -265,9 +265,13 @@ void Form1::design() {
     lblInfoPageNumber.setDescription(QStringLiteral("Page"));
     place(btnGigGuide, &PanelViewButtons, 76, 4, 78, 17);
     place(btnContact, &PanelViewButtons, 158, 4, 78, 17);
+    // Shown by a folder that has such a page.
+    btnGigGuide.setVisible(false);
+    btnContact.setVisible(false);
     place(cmdCurrentSongInfo, &PanelViewButtons, 240, 4, 78, 17);
     place(cmdPrint, &PanelViewButtons, 322, 4, 41, 17);
     place(cmdCloseInfoViewer, &PanelViewButtons, 550, 4, 78, 17);
+    place(Toolbar, &PanelControls, 4, 1, 322, 22);
     place(Label13, &PanelControls, 330, 5, 30, 15);
     Label13.setCaption(QStringLiteral("Font"));
     place(CboFontName, &PanelControls, 362, 2, 140, 20);

@@ -8,9 +8,12 @@
 #include <QMenu>
 #include <QMessageBox>
 #include <QPrintDialog>
+#include <QTextDocument>
 #include <map>
 
 #include "controls/Menu.h"
+#include "info/rtf/RtfReader.h"
+#include "ui/views/RichTextConvert.h"
 
 namespace sonarium {
 
@@ -169,6 +172,12 @@ std::optional<Color> QtDialogs::chooseColor(Color initial) {
 
 // Printing needs Qt Print Support, which the program does not link yet: the set-up answers as
 // if cancelled, and says why once.
+void QtDialogs::printPage(const QByteArray& rtf) {
+    QTextDocument page;
+    fillTextDocument(readRtf(rtf), page);
+    page.print(&printer_);
+}
+
 bool QtDialogs::printerSetup() {
     QPrintDialog dialog(&printer_, parent_);
     return dialog.exec() == QDialog::Accepted;

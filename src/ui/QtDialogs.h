@@ -26,6 +26,7 @@ public:
     QString saveFile(const FileDialogRequest& request) override;
     std::optional<Color> chooseColor(Color initial) override;
     bool printerSetup() override;
+    void printPage(const QByteArray& rtf) override;
     QString chooseDirectory(const QString& prompt, const QString& startDir) override;
     MenuItem* popupMenu(MenuItem& menu) override;
 

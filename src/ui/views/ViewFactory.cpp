@@ -20,6 +20,7 @@
 #include "ui/views/RichTextView.h"
 #include "ui/views/SliderView.h"
 #include "ui/views/TextBoxView.h"
+#include "ui/views/ToolbarView.h"
 
 namespace sonarium {
 
@@ -37,6 +38,7 @@ QWidget* made(Model& model, ErrorReporter& errors, QWidget* parent) {
 QWidget* viewFor(Control& c, ErrorReporter& errors, QWidget* parent) {
     if (auto* m = dynamic_cast<DataGrid*>(&c)) return made<DataGridView>(*m, errors, parent);
     if (auto* m = dynamic_cast<RichTextBox*>(&c)) return made<RichTextView>(*m, errors, parent);
+    if (auto* m = dynamic_cast<Toolbar*>(&c)) return made<ToolbarView>(*m, errors, parent);
     if (auto* m = dynamic_cast<CommandButton*>(&c)) return made<CommandButtonView>(*m, errors, parent);
     if (auto* m = dynamic_cast<Panel*>(&c)) return made<PanelView>(*m, errors, parent);
     if (auto* m = dynamic_cast<Image*>(&c)) {

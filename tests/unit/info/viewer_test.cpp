@@ -78,6 +78,53 @@ TEST_F(InfoViewer, TheViewerTheEditorAndTheLibraryExcludeOneAnother) {
     EXPECT_EQ(f.Height(), 7200);
 }
 
+TEST_F(InfoViewer, TheEditorsToolbarFormatsSavesWithTheMarkerOnceAndAsksBeforeReplacing) {
+    Form1& f = form1();
+    M().AppDir = path("");
+    f.mnuEdit.Click();
+    RichDocument doc;
+    doc.paragraphs[0].append("two words", {});
+    f.RT.setDocument(doc);
+    f.RT.setBackColor({1, 2, 3});
+    f.RT.select(4, 5);
+    f.Toolbar.ButtonClick(4);  // "bold", a check button: pressed
+    EXPECT_EQ(f.RT.document().paragraphs[0].runs.size(), 2);
+    EXPECT_TRUE(f.RT.document().paragraphs[0].runs[1].format.bold);
+
+    const QString file = path("page.rtf");
+    tc.dialogs.answerFile(file);
+    f.Toolbar_ButtonClick("save");
+    const QByteArray saved = read("page.rtf");
+    EXPECT_TRUE(saved.endsWith("}\r\n{\\bc\\197121;-bc}\r\n"));
+    f.RT.setBackColor({9, 9, 9});
+    tc.dialogs.answerFile(file).answer(MsgResult::No);
+    f.Toolbar_ButtonClick("save");
+    EXPECT_EQ(read("page.rtf"), saved) << "No touches nothing";
+    tc.dialogs.answerFile(file).answer(MsgResult::Yes);
+    f.Toolbar_ButtonClick("save");
+    EXPECT_EQ(read("page.rtf").count("{\\bc"), 1) << "rewritten whole, one marker";
+    tc.dialogs.answerFile("");
+    f.Toolbar_ButtonClick("save");  // Cancel: nothing, not a word
+    QStringList messages = tc.dialogs.texts();
+    messages.removeAll("");  // the file dialogs, untitled
+    EXPECT_EQ(messages, QStringList(2, "File already exists, overwrite?"));
+
+    tc.dialogs.answer(MsgResult::Yes);
+    f.Toolbar_ButtonClick("clear");
+    EXPECT_EQ(f.RT.Text(), "");
+    tc.dialogs.answerFile(file);
+    f.Toolbar_ButtonClick("load");
+    EXPECT_EQ(f.RT.Text(), "two words");
+    EXPECT_EQ(f.RT.BackColor(), (Color{9, 9, 9}));
+
+    queue({"A", "B"});
+    tc.dialogs.clear();
+    tc.dialogs.setAutoAnswerOk(true);
+    f.Toolbar_ButtonClick("Karaoki");
+    EXPECT_EQ(tc.dialogs.texts(), QStringList({"This must be the only song in the song queue"}));
+    EXPECT_FALSE(M().KaraokeRecording);
+}
+
 TEST_F(InfoViewer, KaraokeRecordsClicksWritesTheTimingsAndLightsEachStretchAhead) {
     Form1& f = form1();
     RichDocument lyric;

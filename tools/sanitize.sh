@@ -17,7 +17,7 @@ sanitized() {  # tree flags targets...
 asan=${SONARIUM_BUILD}-asan
 sanitized "$asan" "-fsanitize=address,undefined -fno-sanitize-recover=undefined" \
     unit_controls unit_info unit_library unit_playback unit_shell unit_skins integration_tests fuzz_id3 fuzz_decode fuzz_paths fuzz_wav fuzz_cue \
-    fuzz_rtf
+    fuzz_rtf fuzz_kak
 (cd "$asan" && ASAN_OPTIONS=detect_leaks=1:abort_on_error=1 UBSAN_OPTIONS=print_stacktrace=1 \
     ctest --output-on-failure -j"$(nproc)" --timeout 900 -L 'unit|integration|fuzz')
 

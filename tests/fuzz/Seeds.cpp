@@ -142,4 +142,9 @@ std::vector<Seed> rtfSeeds() {
     };
 }
 
+std::vector<Seed> kakSeeds() {
+    return {{"whole", bytes(" 150 , 0 , 310 , 6 , 500 , 12 , 9000 , 21 , 0 , 0 ,")},
+            {"odd", bytes("12,-3, x ,99999999999,\"7\",\r\n 5")}};
+}
+
 }  // namespace sonarium::fuzz

@@ -31,5 +31,8 @@ std::vector<Seed> cueSeeds();
 // code pages 1251 and 932, with a field and a surrogate pair; pictures, binary data and braces
 // left open.
 std::vector<Seed> rtfSeeds();
+// Karaoke timings: a whole file as the program writes it; one without its last comma, with
+// text, a sign and a number past a Long.
+std::vector<Seed> kakSeeds();
 
 }  // namespace sonarium::fuzz

@@ -172,6 +172,25 @@ TEST_F(InfoViewer, KaraokeRecordsClicksWritesTheTimingsAndLightsEachStretchAhead
     tc.loop.advance(28 * FakePlayer::FrameMs);
     EXPECT_EQ(red(), "two three");
     tc.loop.waitUntil([&] { return !M().SongPlaying; });
+
+    // A point in the first 30 frames fires at the first report; with the viewer closed nothing
+    // moves, and opened late it catches up a point a report.
+    f.RT.setDocument(lyric);
+    M().KaraokeFrames = {0, 10, 50, 100, 0};
+    M().KaraokeOffsets = {0, 0, 4, 14, 0};
+    M().KaraokeIndex = 1;
+    f.mnuInfo.Click();
+    f.KaraokeFrame(1);
+    EXPECT_EQ(M().KaraokeIndex, 1);
+    f.mnuInfo.Click();
+    f.KaraokeFrame(1);
+    EXPECT_EQ(red(), "one");
+    f.RT.setDocument(lyric);
+    M().KaraokeIndex = 1;
+    f.KaraokeFrame(80);
+    f.KaraokeFrame(81);
+    EXPECT_EQ(red(), "two three");
+    EXPECT_EQ(M().KaraokeIndex, 3);
 }
 
 }  // namespace

@@ -130,11 +130,15 @@ void Form1::wireEditor() {
     mnuEdit.onClick = [this] { mnuEdit_Click(); };
     imgEditInfo.onClick = [this] { mnuEdit.Click(); };
     cmdQuitEditor.onClick = [this] { mnuEdit.Click(); };
+    // Only the user's choice in the editor: the lists' first rows, chosen as the program
+    // starts, would otherwise give every new page the first font of the system's list.
     CboFontName.onClick = [this] {
+        if (!mnuEdit.Checked()) return;
         tryStep([&] { RT.setSelFontName(CboFontName.Text()); });
         RT.SetFocus();
     };
     CboFontSize.onClick = [this] {
+        if (!mnuEdit.Checked()) return;
         tryStep([&] { RT.setSelFontSize(leadingNumber(CboFontSize.Text())); });
         RT.SetFocus();
     };

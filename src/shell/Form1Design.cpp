@@ -259,6 +259,7 @@ void Form1::design() {
     PanelControls.setVisible(false);
     place(RT, &InfoPanel, 6, 24, 622, 233);
     RT.setDescription(QStringLiteral("Info page"));
+    RT.setBackColor({174, 191, 200});  // the page colour an emptied box takes too
     place(cmdInfoLeft, &PanelViewButtons, 6, 3, 10, 18);
     place(cmdInfoRight, &PanelViewButtons, 18, 3, 10, 18);
     place(lblInfoPageNumber, &PanelViewButtons, 32, 5, 40, 15);

@@ -53,6 +53,12 @@ TEST_F(InfoWindowTest, ASongsPageLitByItsTimingsAndTheEditor) {
     ASSERT_NE(karaoke, nullptr);
     EXPECT_EQ(karaoke->accessibleName(), "Record Karaoke Positions");
     saveScreenshot(main(), "info-editor.png");
+    const QString daylight = QStringLiteral(SONARIUM_SKINS_DIR) + "/Daylight";
+    registerSkin(daylight);
+    M().SkinPath = daylight;
+    f.LoadSkin();
+    settle();
+    saveScreenshot(main(), "info-editor-daylight.png");
 }
 
 }  // namespace

@@ -1,5 +1,6 @@
 #include "ui/views/RichTextView.h"
 
+#include <QScrollBar>
 #include <QTextBlock>
 
 #include "ui/views/RichTextConvert.h"
@@ -26,7 +27,10 @@ void RichTextView::syncOwn() {
     setPalette(p);
     if (shownVersion_ != box_.documentVersion()) {
         shownVersion_ = box_.documentVersion();
+        // A stretch lit by the karaoke refills the page: the reader's place in it stays.
+        const int scrolled = verticalScrollBar()->value();
         fillTextDocument(box_.document(), *document());
+        verticalScrollBar()->setValue(scrolled);
     }
     QTextCursor cursor = textCursor();
     const int end = int(document()->characterCount()) - 1;

@@ -146,25 +146,6 @@ void Form1::wireEditor() {
 
 // Nothing is saved and nothing asked on the way out: the text stays in the box until
 // something loads over it.
-void Form1::mnuEdit_Click() {
-    if (mnuInfo.Checked()) tryStep([&] { mnuInfo.Click(); });
-    if (mnuDatabase.Checked()) tryStep([&] { mnuDatabase.Click(); });
-    if (!mnuEdit.Checked()) {
-        SizeForInfo(false);
-        RT.setLocked(false);
-        RT.setTabStop(true);
-        PanelControls.setVisible(true);
-        PanelViewButtons.setVisible(false);
-        InfoPanel.setVisible(true);
-        mnuEdit.setChecked(true);
-        PanelTitles().setVisible(false);
-    } else {
-        SizeWithoutInfo();
-        InfoPanel.setVisible(false);
-        mnuEdit.setChecked(false);
-        mnuInfo.setEnabled(true);
-        PanelTitles().setVisible(true);
-    }
-}
+void Form1::mnuEdit_Click() { ToggleInfoPanel(true); }
 
 }  // namespace sonarium

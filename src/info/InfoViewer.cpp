@@ -5,14 +5,12 @@
 
 #include "controls/FileNames.h"
 #include "info/PageMarker.h"
-#include "info/rtf/RtfReader.h"
 #include "shell/Form1.h"
 #include "shell/TextFields.h"
 
 namespace sonarium {
 
 namespace {
-constexpr Color DefaultPageColour{174, 191, 200};  // 13156270
 constexpr int NormalHeight = 7200, TallHeight = 8200, TallPanel = 4915, TallBox = 4525;
 constexpr int ShortPanel = 3900, ShortBox = 3500;
 }  // namespace
@@ -159,25 +157,32 @@ void Form1::SizeWithoutInfo() {
 }
 
 // The viewer, the editor and the library's panel exclude one another.
-void Form1::mnuInfo_Click() {
-    if (mnuEdit.Checked()) tryStep([&] { mnuEdit.Click(); });
+void Form1::mnuInfo_Click() { ToggleInfoPanel(false); }
+
+// The panel of the pages, as the viewer (the box locked, the page buttons) or as the editor
+// (unlocked, the toolbar); opening one closes the other and the library first.
+void Form1::ToggleInfoPanel(bool editor) {
+    MenuItem& own = editor ? mnuEdit : mnuInfo;
+    MenuItem& other = editor ? mnuInfo : mnuEdit;
+    if (other.Checked()) tryStep([&] { other.Click(); });
     if (mnuDatabase.Checked()) tryStep([&] { mnuDatabase.Click(); });
-    if (!mnuInfo.Checked()) {
-        SizeForInfo(true);
-        PanelControls.setVisible(false);
-        PanelViewButtons.setVisible(true);
-        InfoPanel.setVisible(true);
-        RT.setLocked(true);
+    if (!own.Checked()) {
+        SizeForInfo(!editor);
+        RT.setLocked(!editor);
+        if (editor) RT.setTabStop(true);
         RT.setVisible(true);
-        mnuInfo.setChecked(true);
+        PanelControls.setVisible(editor);
+        PanelViewButtons.setVisible(!editor);
+        InfoPanel.setVisible(true);
+        own.setChecked(true);
         PanelTitles().setVisible(false);
     } else {
         SizeWithoutInfo();
         InfoPanel.setVisible(false);
-        mnuInfo.setChecked(false);
+        own.setChecked(false);
+        other.setEnabled(true);
         PanelTitles().setVisible(true);
-        mnuEdit.setEnabled(true);
-        PanelViewButtons.setVisible(false);
+        if (!editor) PanelViewButtons.setVisible(false);
     }
 }
 

@@ -10,6 +10,9 @@
 
 namespace sonarium {
 
+// The colour of a page with no marker, and of an emptied box: 13156270.
+constexpr Color DefaultPageColour{174, 191, 200};
+
 // The marker line, with its line end.
 QByteArray pageMarkerLine(Color colour);
 

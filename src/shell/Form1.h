@@ -259,6 +259,7 @@ public:
     void SizeForInfo(bool viewer);
     void SizeWithoutInfo();
     void mnuInfo_Click();
+    void ToggleInfoPanel(bool editor);
     void cmdCloseInfoViewer_Click();
     void mnuEdit_Click();
     void designToolbar();

@@ -1,6 +1,7 @@
 // The main window as designed: where each control stands, its size, captions and starting
 // state. Places are given in pixels here and stored in twips (15 to a pixel). The frames match
 // the pieces that a main skin cuts, so every cut lands on its control.
+#include "info/PageMarker.h"
 #include "library/ColumnButtons.h"
 #include "shell/Form1.h"
 
@@ -259,7 +260,7 @@ void Form1::design() {
     PanelControls.setVisible(false);
     place(RT, &InfoPanel, 6, 24, 622, 233);
     RT.setDescription(QStringLiteral("Info page"));
-    RT.setBackColor({174, 191, 200});  // the page colour an emptied box takes too
+    RT.setBackColor(DefaultPageColour);
     place(cmdInfoLeft, &PanelViewButtons, 6, 3, 10, 18);
     place(cmdInfoRight, &PanelViewButtons, 18, 3, 10, 18);
     place(lblInfoPageNumber, &PanelViewButtons, 32, 5, 40, 15);

@@ -6,6 +6,7 @@
 #include "ui/Assets.h"
 #include "ui/FormWindow.h"
 #include "ui/MainWindow.h"
+#include "ui/MiniPlayerWindow.h"
 #include "ui/mpris/MprisService.h"
 #include "ui/views/ControlSync.h"
 

@@ -95,16 +95,27 @@ private:
     bool stretch_ = false;
 };
 
-// A picture box: a picture background and text printed on it (Cls clears the printing).
+// A picture box: a picture background and text printed on it (Cls clears the printing and
+// sends the print position back to the left edge). The printing starts at CurrentX (twips) in
+// the box's font, whose size is in points.
 class PictureBox : public Image {
 public:
     using Image::Image;
-    void Cls() { printed_.clear(), notify(); }
+    void Cls() { printed_.clear(), currentX_ = 0, notify(); }
     void Print(const QString& text) { printed_ += text, notify(); }
     const QString& printed() const { return printed_; }
+    int CurrentX() const { return currentX_; }
+    void setCurrentX(int twips) { set(currentX_, twips); }
+    double FontSize() const { return fontSize_; }
+    void setFontSize(double points) { set(fontSize_, points); }
+    bool FontBold() const { return fontBold_; }
+    void setFontBold(bool b) { set(fontBold_, b); }
 
 private:
     QString printed_;
+    int currentX_ = 0;
+    double fontSize_ = 8;
+    bool fontBold_ = false;
 };
 
 // A panel; a skin may give it a background picture, drawn from its top left corner.

@@ -1,6 +1,7 @@
 #include "shell/Form1.h"
 
 #include "controls/Errors.h"
+#include "shell/FrmMiniPlayer.h"
 
 namespace sonarium {
 
@@ -14,10 +15,12 @@ Form1::Form1(Module1& m, Components& c, CurrentDirectory& current, DriveDirector
       frmGeneral(general),
       form2(f2),
       frmMiniPlayer(mini) {
+    frmMiniPlayer.attach(*this);
     design();
     // The built-in look is the default skin, shipped inside the program. Where it can't be read
     // the controls keep the plain look they were designed with.
     tryStep([&] { ApplySkinFiles(BuiltInSkin); });
+    tryStep([&] { ApplyMiniSkinFiles(BuiltInMiniSkin); });
     wireHandlers();
 }
 
@@ -90,6 +93,7 @@ void Form1::wireHandlers() {
     mnuSongInfo.onClick = [this] { mnuSongInfo_Click(); };
     mnuPhoto.onClick = [this] { mnuPhoto_Click(); };
     wireInfo();
+    wireWindowModes();
     lstSongSets.onDblClick = [this] { lstSongSets_DblClick(); };
 
     cmdUpdateTag.onClick = [this] { UpdateTag(); };

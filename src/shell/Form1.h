@@ -160,7 +160,31 @@ public:
     void ApplySkinFiles(const QString& dir);
     static inline const QString BuiltInSkin = QStringLiteral(":/skins/Default");
     void mnuSelectSkin_Click();
+    void AskSkinDirectory();
+    // The picture-clip sheet that both skins cut from: the last Buttons.bmp that loaded.
+    Picture Clip1;
     void LoadSkinMini();
+    // The mini player's skin files in `dir`, without the check that it is a skin.
+    void ApplyMiniSkinFiles(const QString& dir);
+    void ApplyMiniDigits(std::int32_t x, std::int32_t y, std::int32_t w, std::int32_t h, std::int32_t left,
+                         std::int32_t top);
+    static inline const QString BuiltInMiniSkin = QStringLiteral(":/zipdeck/Default");
+    void mnuSelectSkinPlayer_Click();
+    void cmdLoadSkin_Click();
+    // ---- Window modes ----
+    void StickOnly();
+    void FullScreen();
+    void imgSize_Click();
+    void imgStick_MouseDown(int button, int shift, double x, double y);
+    void imgStick_MouseMove(int button, int shift, double x, double y);
+    void mnuFullScreen_Click();
+    void mnuMiniPlayer_Click();
+    void wireWindowModes();
+    bool StickDragging = false;
+    // ---- The mini player's calls ----
+    void PlayFromMini();
+    void StopFromMini();
+    void PauseFromMini();
     void imgButon_Click(int index);
     void UpdateRecordCount();
     void lstSongs_Click();

@@ -58,6 +58,16 @@ struct Module1 {
     std::int32_t MiniSliderTop = 690, MiniSliderBottom = 1020;
     double MiniSliderStep = 3.3;
 
+    // The mini player's skin: window sizes in twips, the list's rows, the sliders' travel in
+    // pixels, and which list it shows (0 the queue, 1 the song sets).
+    std::int32_t MiniCollapsedSize = 3270;
+    std::int16_t MiniCollapseHeight = 0;
+    std::int32_t MiniWidth = 5850, MiniHeight = 1320;
+    std::int32_t MiniListRows = 5;
+    std::int32_t MiniSliderTravel = 0;
+    std::int32_t MiniTrebleTop = 0, MiniBassTop = 0;  // read from the skin, used by nothing
+    std::int16_t MiniListType = 0;
+
     // Info pages: the folder's pages from index 1, the last element always empty; the parts of
     // the last background colour read.
     std::vector<QString> InfoFiles{QString(), QString()};

@@ -12,6 +12,7 @@ Program::Program(Components& components)
       driveDirectories(components.volumes, currentDirectory.path()),
       frmGeneral(components.volumes, driveDirectories, currentDirectory.path()),
       form2(M, components),
+      frmMiniPlayer(M, components),
       form1(M, components, currentDirectory, driveDirectories, frmGeneral, form2, frmMiniPlayer) {}
 
 // Every step that fails is skipped and the next one runs.

@@ -10,6 +10,7 @@
 #include "shell/FrmGeneral.h"
 #include "shell/TextFields.h"
 #include "skins/MainSkinLayout.h"
+#include "skins/SkinColour.h"
 
 namespace sonarium {
 
@@ -49,14 +50,8 @@ void cutOnto(const QMultiHash<QString, Control*>& controls, const Picture& sheet
     for (Control* c : targets) putPicture(*c, piece);
 }
 
-// A component by the lenient number rule, rounded; over 255 counts as 255, and a negative one
-// is refused as the colour function refuses it.
-int component(const QString& field) {
-    const double v = roundHalfEven(leadingNumber(field));
-    if (v < 0)
-        throw RuntimeError(RuntimeError::InvalidCall, QStringLiteral("Invalid procedure call or argument"));
-    return v > 255 ? 255 : int(v);
-}
+// A component by the lenient number rule, rounded.
+int component(const QString& field) { return colourComponent(roundHalfEven(leadingNumber(field))); }
 
 // The 37 fields of Colors.txt: labels thrown away, and eight colours of three components. The
 // components are three strings that start empty and keep their last value, so a short file
@@ -102,6 +97,7 @@ void applyColours(Form1& f, TextFieldReader& in) {
 void Form1::ApplySkinFiles(const QString& dir) {
     PicDatabase.setPicture(C.pictures.load(inDir(dir, DatabaseFile)));
     Picture buttons = C.pictures.load(inDir(dir, ButtonsFile));
+    Clip1 = buttons;
     Picture panels = C.pictures.load(inDir(dir, PanelsFile));
     if (!matchFiles(dir, QStringLiteral("Colors.*")).isEmpty()) {
         TextFieldReader in = TextFieldReader::open(inDir(dir, ColorsFile));
@@ -135,6 +131,17 @@ void Form1::LoadSkin() {
 // any was, an empty skin path that finds nothing and is saved as it is. A skin that fails to
 // load is reported, and the window stays as the failure left it.
 void Form1::mnuSelectSkin_Click() {
+    AskSkinDirectory();
+    M.SkinPath = M.SelectedDir;
+    try {
+        LoadSkin();
+    } catch (const RuntimeError& e) {
+        C.dialogs.msgBox(e.text(), MsgButtons::OK, MsgIcon::Critical, QStringLiteral("Select Skin"));
+    }
+}
+
+// The dialog's directory face; M.SelectedDir holds the directory accepted last.
+void Form1::AskSkinDirectory() {
     FrmGeneral& g = frmGeneral;
     const QString heading = g.lblStartFrom.Caption();
     FrmGeneral::showControls({&g.cmdAdd, &g.CmdClose, &g.File1, &g.Label1, &g.chkSubs, &g.lblSubs}, false);
@@ -146,12 +153,6 @@ void Form1::mnuSelectSkin_Click() {
     g.lblStartFrom.setCaption(heading);
     FrmGeneral::showControls({&g.lblStartFrom, &g.cmdOK, &g.cmdCancel}, false);
     FrmGeneral::showControls({&g.cmdAdd, &g.CmdClose, &g.File1, &g.Label1, &g.chkSubs, &g.lblSubs}, true);
-    M.SkinPath = M.SelectedDir;
-    try {
-        LoadSkin();
-    } catch (const RuntimeError& e) {
-        C.dialogs.msgBox(e.text(), MsgButtons::OK, MsgIcon::Critical, QStringLiteral("Select Skin"));
-    }
 }
 
 }  // namespace sonarium

@@ -55,7 +55,8 @@ void FormBinding::refresh() {
     const QPoint place(form_.Left(), form_.Top());
     if (place != place_) {
         place_ = place;
-        window_.move(twipsToPixels(place.x()), twipsToPixels(place.y()));
+        const QPoint pixels(twipsToPixels(place.x()), twipsToPixels(place.y()));
+        window_.move(placeFilter ? placeFilter(pixels) : pixels);
     }
     syncVisible();
     if (window_.isVisible()) {

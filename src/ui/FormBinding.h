@@ -39,6 +39,8 @@ public:
     std::function<void()> beforeShow;
     // Runs on each refresh: a window follows the model's size here.
     std::function<void()> onRefresh;
+    // Where the window goes, in pixels, for a place the model sets; by default that place.
+    std::function<QPoint(QPoint)> placeFilter;
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;

@@ -20,16 +20,22 @@ FormWindow::FormWindow(Form& form, const std::vector<Control*>& controls, ErrorR
     : QWidget(parent, flags), form_(form), views_(*this, errors) {
     views_.build(controls);
     binding_ = std::make_unique<FormBinding>(form, *this, errors, form.Caption());
-    binding_->onRefresh = [this] { followSize(); };
+    binding_->onRefresh = [this] {
+        followSize();
+        afterRefresh();
+    };
     binding_->beforeShow = [this] { beforeShow(); };
     binding_->refresh();
 }
 
 FormWindow::~FormWindow() = default;
 
+QSize FormWindow::sizeFor(int width, int height) const {
+    return width > 0 && height > 0 ? QSize(width, height) : FallbackSize;
+}
+
 void FormWindow::followSize() {
-    const int w = twipsToPixels(form_.Width()), h = twipsToPixels(form_.Height());
-    const QSize size = w > 0 && h > 0 ? QSize(w, h) : FallbackSize;
+    const QSize size = sizeFor(twipsToPixels(form_.Width()), twipsToPixels(form_.Height()));
     if (this->size() != size || minimumSize() != size) setFixedSize(size);
 }
 

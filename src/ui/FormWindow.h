@@ -28,7 +28,12 @@ protected:
     void paintEvent(QPaintEvent*) override;
     // Before each show; flags may change here.
     virtual void beforeShow() {}
+    // The window's size for the model's Width and Height in pixels.
+    virtual QSize sizeFor(int width, int height) const;
+    // After each reading of the model.
+    virtual void afterRefresh() {}
     FormBinding& binding() { return *binding_; }
+    ViewFactory& views() { return views_; }
 
 private:
     void followSize();

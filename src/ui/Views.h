@@ -10,6 +10,7 @@ namespace sonarium {
 class FormWindow;
 class GeneralWindow;
 class MainWindow;
+class MiniPlayerWindow;
 class Program;
 
 class Views {
@@ -21,13 +22,13 @@ public:
 
     MainWindow& main() const { return *main_; }
     GeneralWindow& general() const { return *general_; }
-    FormWindow& miniPlayer() const { return *mini_; }
+    MiniPlayerWindow& miniPlayer() const { return *mini_; }
     FormWindow& form2() const { return *form2_; }
 
 private:
     // Declared so that the dialogs, which are children of the main window, go first.
     std::unique_ptr<MainWindow> main_;
-    std::unique_ptr<FormWindow> mini_;
+    std::unique_ptr<MiniPlayerWindow> mini_;
     std::unique_ptr<GeneralWindow> general_;
     std::unique_ptr<FormWindow> form2_;
 };

@@ -1,6 +1,7 @@
 #include "ui/views/ImageView.h"
 
 #include <QPainter>
+#include <algorithm>
 
 #include "ui/views/HiFiLook.h"
 
@@ -13,9 +14,14 @@ void ImageView::paintEvent(QPaintEvent*) {
     QPainter p(this);
     if (!painter_.paint(p, rect(), image_.picture(), image_.Stretch())) paintBlank(p);
     if (box_ && !box_->printed().isEmpty()) {
+        // One line from the print position, in the box's font; what doesn't fit is cut off.
+        QFont font(QStringLiteral("DejaVu Sans"));
+        font.setPointSizeF(std::clamp(box_->FontSize(), 4.0, 72.0));
+        font.setBold(box_->FontBold());
+        p.setFont(font);
         p.setPen(box_->ForeColor() ? toQColor(*box_->ForeColor()) : hifi::colours::legend);
-        p.drawText(rect().adjusted(3, 2, -3, -2), Qt::AlignLeft | Qt::AlignTop | Qt::TextWordWrap,
-                   box_->printed());
+        p.drawText(rect().adjusted(2 + twipsToPixels(box_->CurrentX()), 0, 0, 0),
+                   Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, box_->printed());
     }
 }
 

@@ -123,12 +123,13 @@ using Shutdown = StartedProgramFixture;
 
 // Closing writes the twelve settings byte for byte: at first the first start's defaults, as a
 // missing file leaves them; then every field of a full file read at start is written back as it
-// was, but the mini mode: quitting from the mini player makes the next start open the main window.
+// was, but the mini mode (quitting from the mini player makes the next start open the main
+// window) and a mini player skin that isn't one, for which the program's folder is tried instead.
 TEST_F(Shutdown, ClosingWritesTheTwelveSettingsByteForByteAndLeavesMiniMode) {
     EXPECT_FALSE(form1().QueryUnload()) << "the close runs to its end itself";
-    const QByteArray expected = " 0 \r\n 0 \r\n" + path("SonariumData.mdb").toUtf8() +
-                                "\r\n 3465 \r\n 1 \r\n" + dir.path().toUtf8() +
-                                "\r\n 0 \r\n 10000 \r\n 0 \r\n\r\n00:00\r\n 0 \r\n";
+    const QByteArray expected =
+        " 0 \r\n 0 \r\n" + path("SonariumData.mdb").toUtf8() + "\r\n 3465 \r\n 1 \r\n" + dir.path().toUtf8() +
+        "\r\n 0 \r\n 10000 \r\n 0 \r\n" + dir.path().toUtf8() + "\r\n00:00\r\n 0 \r\n";
     EXPECT_EQ(read("Config.dat"), expected);
     EXPECT_TRUE(tc.mp3.calls().contains("Close"));
     EXPECT_FALSE(tc.peak.prepared()) << "the meter's buffer is freed";
@@ -140,7 +141,7 @@ TEST_F(Shutdown, ClosingWritesTheTwelveSettingsByteForByteAndLeavesMiniMode) {
     prog.reset();
     program().Main();
     form1().mnuQuit.Click();
-    EXPECT_EQ(read("Config.dat"), " 0 \r\n" + rest);
+    EXPECT_EQ(read("Config.dat"), " 0 \r\n" + QByteArray(rest).replace("/skins/Deck", dir.path().toUtf8()));
 }
 
 TEST_F(Shutdown, ASecondCloseRequestDuringTheWaitIsIgnored) {

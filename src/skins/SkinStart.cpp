@@ -1,8 +1,0 @@
-// The mini player's skin; its loader lands with the mini player.
-#include "shell/Form1.h"
-
-namespace sonarium {
-
-void Form1::LoadSkinMini() {}
-
-}  // namespace sonarium

@@ -1,22 +1,23 @@
 // skingen: draws a complete main skin (PanelDatabase.bmp, Panels.bmp, Buttons.bmp, Colors.txt)
-// into a directory, from the table of rectangles that the skin loader cuts by.
+// into a directory, from the table of rectangles that the skin loader cuts by; or, with
+// "zipdeck" first, the mini player's skin (Panel.bmp, Buttons.bmp, CoOrds.txt, vu.txt) from its
+// layout table.
 //
-//   skingen <theme> <outdir> [previewdir]
+//   skingen [zipdeck] <theme> <outdir> [previewdir]
 //
 // Each file is written under a temporary name and renamed into place, then read back and
 // compared with what was drawn, so a skin on disk is either whole and right or not replaced.
 #include <QDir>
 #include <QFontInfo>
 #include <QGuiApplication>
-#include <QImageReader>
-#include <QImageWriter>
-#include <QSaveFile>
 #include <cstdio>
 #include <exception>
 
 #include "Paint.h"
 #include "Preview.h"
 #include "Sheets.h"
+#include "SkinFiles.h"
+#include "Zipdeck.h"
 
 using namespace sonarium;
 using namespace sonarium::skingen;
@@ -24,44 +25,6 @@ using namespace sonarium::skingen;
 namespace {
 
 void say(const QString& s) { std::fprintf(stderr, "%s\n", qPrintable(s)); }
-
-bool saveBitmap(const QImage& image, const QString& path, QString& error) {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) {
-        error = QStringLiteral("cannot write %1: %2").arg(path, file.errorString());
-        return false;
-    }
-    QImageWriter writer(&file, "BMP");
-    if (!writer.write(image.convertToFormat(QImage::Format_RGB888)) || !file.commit()) {
-        error = QStringLiteral("cannot write %1: %2").arg(path, writer.errorString());
-        return false;
-    }
-    return true;
-}
-
-// The bitmap on disk has the sheet's size and every one of its pixels.
-bool checkBitmap(const QImage& drawn, const QString& path, QString& error) {
-    QImageReader reader(path, "BMP");
-    const QImage back = reader.read();
-    if (back.isNull()) {
-        error = QStringLiteral("%1 does not load back: %2").arg(path, reader.errorString());
-        return false;
-    }
-    if (back.size() != drawn.size()) {
-        error = QStringLiteral("%1 loads as %2 x %3, not %4 x %5")
-                    .arg(path)
-                    .arg(back.width())
-                    .arg(back.height())
-                    .arg(drawn.width())
-                    .arg(drawn.height());
-        return false;
-    }
-    if (back.convertToFormat(QImage::Format_RGB32) != drawn.convertToFormat(QImage::Format_RGB32)) {
-        error = QStringLiteral("%1 loads back with different pixels").arg(path);
-        return false;
-    }
-    return true;
-}
 
 // The colour file splits into the 37 fields the loader reads, each colour component a whole
 // number from 0 to 255 where it belongs.
@@ -108,11 +71,12 @@ bool writeSkin(const Theme& t, const QString& dir, const QString& previewDir) {
         }
     }
     const QByteArray colours = colorsText(t);
-    QSaveFile file(dir + u'/' +
-                   QLatin1String(mainskin::ColorsFile.data(), qsizetype(mainskin::ColorsFile.size())));
-    if (!checkColors(colours, error) || !file.open(QIODevice::WriteOnly) ||
-        file.write(colours) != colours.size() || !file.commit()) {
-        say(QStringLiteral("skingen: ") + (error.isEmpty() ? file.errorString() : error));
+    if (!checkColors(colours, error) ||
+        !saveText(
+            colours,
+            dir + u'/' + QLatin1String(mainskin::ColorsFile.data(), qsizetype(mainskin::ColorsFile.size())),
+            error)) {
+        say(QStringLiteral("skingen: ") + error);
         return false;
     }
     if (!previewDir.isEmpty() && !writePreviews(sheets, t, previewDir, error)) {
@@ -128,9 +92,11 @@ int main(int argc, char** argv) {
     // Drawing needs no screen.
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication app(argc, argv);
-    const QStringList args = app.arguments();
+    QStringList args = app.arguments();
+    const bool zipdeck = args.size() > 1 && args[1] == QStringLiteral("zipdeck");
+    if (zipdeck) args.removeAt(1);
     if (args.size() < 3 || args.size() > 4) {
-        say(QStringLiteral("usage: skingen <theme> <outdir> [previewdir]\nthemes: %1")
+        say(QStringLiteral("usage: skingen [zipdeck] <theme> <outdir> [previewdir]\nthemes: %1")
                 .arg(themeNames().join(u' ')));
         return 2;
     }
@@ -145,10 +111,21 @@ int main(int argc, char** argv) {
         say(QStringLiteral("skingen: the font DejaVu Sans is not installed (got %1)").arg(font.family()));
         return 1;
     }
+    const QString previewDir = args.size() == 4 ? args[3] : QString();
+    if (zipdeck) {
+        QString error;
+        try {
+            if (zipdeck::writeSkin(theme, args[2], previewDir, error)) return 0;
+        } catch (const std::exception& e) {
+            error = QString::fromUtf8(e.what());
+        }
+        say(QStringLiteral("skingen: ") + error);
+        return 1;
+    }
     for (const QString& pair : overlappingCuts())
         say(QStringLiteral("skingen: note: pictures share pixels on Buttons.bmp: %1").arg(pair));
     try {
-        return writeSkin(theme, args[2], args.size() == 4 ? args[3] : QString()) ? 0 : 1;
+        return writeSkin(theme, args[2], previewDir) ? 0 : 1;
     } catch (const std::exception& e) {
         say(QStringLiteral("skingen: %1").arg(QString::fromUtf8(e.what())));
         return 1;

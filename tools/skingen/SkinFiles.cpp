@@ -1,0 +1,61 @@
+#include "SkinFiles.h"
+
+#include <QFile>
+#include <QImageReader>
+#include <QImageWriter>
+#include <QSaveFile>
+
+namespace sonarium::skingen {
+
+bool saveBitmap(const QImage& image, const QString& path, QString& error) {
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly)) {
+        error = QStringLiteral("cannot write %1: %2").arg(path, file.errorString());
+        return false;
+    }
+    QImageWriter writer(&file, "BMP");
+    if (!writer.write(image.convertToFormat(QImage::Format_RGB888)) || !file.commit()) {
+        error = QStringLiteral("cannot write %1: %2").arg(path, writer.errorString());
+        return false;
+    }
+    return true;
+}
+
+bool checkBitmap(const QImage& drawn, const QString& path, QString& error) {
+    QImageReader reader(path, "BMP");
+    const QImage back = reader.read();
+    if (back.isNull()) {
+        error = QStringLiteral("%1 does not load back: %2").arg(path, reader.errorString());
+        return false;
+    }
+    if (back.size() != drawn.size()) {
+        error = QStringLiteral("%1 loads as %2 x %3, not %4 x %5")
+                    .arg(path)
+                    .arg(back.width())
+                    .arg(back.height())
+                    .arg(drawn.width())
+                    .arg(drawn.height());
+        return false;
+    }
+    if (back.convertToFormat(QImage::Format_RGB32) != drawn.convertToFormat(QImage::Format_RGB32)) {
+        error = QStringLiteral("%1 loads back with different pixels").arg(path);
+        return false;
+    }
+    return true;
+}
+
+bool saveText(const QByteArray& text, const QString& path, QString& error) {
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) || file.write(text) != text.size() || !file.commit()) {
+        error = QStringLiteral("cannot write %1: %2").arg(path, file.errorString());
+        return false;
+    }
+    QFile back(path);
+    if (!back.open(QIODevice::ReadOnly) || back.readAll() != text) {
+        error = QStringLiteral("%1 does not read back as written").arg(path);
+        return false;
+    }
+    return true;
+}
+
+}  // namespace sonarium::skingen

@@ -14,10 +14,12 @@ public:
 
     QStringList screenFonts() override { return {"DejaVu Sans", "DejaVu Serif"}; }
     QSize screenSizeTwips() override { return {1920 * 15, 1080 * 15}; }
-    QPoint cursorPosTwips() override { return {0, 0}; }
+    QPoint cursorPosTwips() override { return cursor; }
     bool openDocument(const QString&) override { return true; }
     bool openHelp() override { return true; }
     void quit(int exitCode) override { quitCode_ = exitCode; }
+
+    QPoint cursor;  // where the pointer stands on the screen, in twips
 
 private:
     std::optional<int> quitCode_;

@@ -21,7 +21,8 @@ void ImageView::paintEvent(QPaintEvent*) {
         p.setFont(font);
         p.setPen(box_->ForeColor() ? toQColor(*box_->ForeColor()) : hifi::colours::legend);
         p.drawText(rect().adjusted(2 + twipsToPixels(box_->CurrentX()), 0, 0, 0),
-                   Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine, box_->printed());
+                   Qt::AlignLeft | Qt::AlignVCenter | Qt::TextSingleLine,
+                   QString(box_->printed()).replace(QChar(0), u' '));  // a tag's padding shows blank
     }
 }
 

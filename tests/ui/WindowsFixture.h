@@ -26,6 +26,7 @@ protected:
     void SetUp() override {
         ProgramFixture::SetUp();
         registerSkin(Form1::BuiltInSkin);
+        registerSheets(Form1::BuiltInMiniSkin, {"Panel.bmp", "Buttons.bmp"});
         views = std::make_unique<Views>(program());
     }
     void TearDown() override {
@@ -42,9 +43,12 @@ protected:
     // The sheets of the skin in `dir` become loadable through the fake loader, decoded by the
     // real one, so the windows wear the skin the program is given.
     void registerSkin(const QString& dir) {
+        registerSheets(dir, {"PanelDatabase.bmp", "Buttons.bmp", "Panels.bmp"});
+    }
+    void registerSheets(const QString& dir, std::initializer_list<const char*> sheets) {
         initAssets();
         QtPictureLoader real;
-        for (const char* sheet : {"PanelDatabase.bmp", "Buttons.bmp", "Panels.bmp"}) {
+        for (const char* sheet : sheets) {
             const QString file = dir + u'/' + QLatin1String(sheet);
             tc.pictures.add(file, real.load(file));
         }

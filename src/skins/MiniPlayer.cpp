@@ -115,6 +115,9 @@ void FrmMiniPlayer::ButtonPlay_MouseDown() {
     } else {
         tryStep([&] { ButtonPlay.setPicture(ButtonPlayPress.picture()); });
         tryStep([&] { F1->PlayFromMini(); });
+        // With no row selected when the window opened its page stayed empty; Play has now
+        // selected the first row, so the page can show where the song is.
+        if (M.MiniListType != 1 && SongNameCount == 0) GetSongs();
         Timer1.setInterval(TitleInterval);
         Timer1.setEnabled(true);
     }

@@ -71,6 +71,10 @@ TEST_F(MiniPlayer, PagesOfTheQueueWithBackAndForwardAtTheirEnds) {
     EXPECT_EQ(where(), "-1  -1");
 
     queue(12);
+    f.ButtonPlay.MouseDown(LeftButton, 0, 0, 0);
+    EXPECT_EQ(where(), "0 Song 0 0") << "Play took the first row, and the empty page shows it";
+    f.ButtonPlay.MouseDown(LeftButton, 0, 0, 0);
+    EXPECT_FALSE(M().SongPlaying);
     form1().lstSongs.setListIndex(7);
     f.GetSongs();
     EXPECT_EQ(where(), "7 Song 5 2") << "the selection walked, page by page, to the song";

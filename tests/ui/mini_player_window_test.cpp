@@ -3,6 +3,7 @@
 // their hints, and the main window rolled up to its bar. On a real X server the window's shape
 // lets the pointer through outside it and shows the panel's own pixels inside it.
 #include <QScreen>
+#include <QThread>
 
 #include "WindowsFixture.h"
 #include "shell/FrmMiniPlayer.h"
@@ -109,11 +110,19 @@ TEST_F(MiniPlayerOnX, TheShapeLetsThePointerThroughAndShowsThePanel) {
     wear("Default");
     mini().Move(100 * 15, 100 * 15, mini().Width(), mini().Height());
     mini().Show(tc.loop);
-    for (int i = 0; i < 20 && !window().isVisible(); ++i) settle();
-    QCoreApplication::processEvents(QEventLoop::AllEvents, 200);
     const QImage panel = QImage(ZipdeckDir + "/Default/Panel.bmp").convertToFormat(QImage::Format_RGB32);
-    const QImage screen = window().screen()->grabWindow(0).toImage().convertToFormat(QImage::Format_RGB32);
-    const QPoint at = window().geometry().topLeft();
+    // The server maps, places and paints the window in its own time, on a busy machine too:
+    // wait (boundedly) until a point of bare metal shows the panel's pixel where it belongs.
+    const QPoint metal(2, 40);
+    QImage screen;
+    QPoint at;
+    for (int i = 0; i < 250; ++i) {
+        QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+        at = window().geometry().topLeft();
+        screen = window().screen()->grabWindow(0).toImage().convertToFormat(QImage::Format_RGB32);
+        if (window().isVisible() && screen.pixel(at + metal) == panel.pixel(metal)) break;
+        QThread::msleep(20);
+    }
     int inside = 0, matching = 0, outside = 0, through = 0;
     for (int y = 0; y < panel.height(); y += 3)
         for (int x = 0; x < panel.width(); x += 3) {

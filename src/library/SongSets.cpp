@@ -67,8 +67,14 @@ void Form1::mnuSongSets_Click() {
     tryStep([&] { lstSongSets.setVisible(true); });
     tryStep([&] { lblDoubleClick.setVisible(true); });
     tryStep([&] { lstSongSets.Clear(); });
+    for (const QString& name : SongSetNames()) tryStep([&] { lstSongSets.AddItem(name); });
+}
+
+QStringList Form1::SongSetNames() const {
+    QStringList names;
     for (const QString& file : matchFiles(currentDirectory.path(), QStringLiteral("*.EST")))
-        tryStep([&] { lstSongSets.AddItem(file.left(file.size() - 4)); });
+        names << file.chopped(4);
+    return names;
 }
 
 // Unlike the menu's load, this selects the first row, whose click loads the first song.

@@ -25,12 +25,8 @@ void Form1::LoadTB() {
         });
     }
     if (frmMiniPlayer.Visible()) {
-        tryStep([&] {
-            frmMiniPlayer.SliderTreble.setTop(toInt32((100 - M.Treble) * M.MiniSliderStep + M.MiniSliderTop));
-        });
-        tryStep([&] {
-            frmMiniPlayer.SliderBass.setTop(toInt32((100 - M.Bass) * M.MiniSliderStep + M.MiniSliderTop));
-        });
+        tryStep([&] { frmMiniPlayer.SliderTreble.setTop(slider::miniTopFor(M, M.Treble)); });
+        tryStep([&] { frmMiniPlayer.SliderBass.setTop(slider::miniTopFor(M, M.Bass)); });
     } else {
         tryStep([&] { SliderBass.setTop(slider::topFor(slider::BassTop, M.Bass)); });
         tryStep([&] { SliderTreble.setTop(slider::topFor(slider::TrebleTop, M.Treble)); });

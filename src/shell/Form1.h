@@ -151,6 +151,8 @@ public:
     void mnuPhoto_Click();
     void lstSongSets_DblClick();
     void GetSongSetsFromMini();
+    // The song sets in the current directory, by name without their extension, in its order.
+    QStringList SongSetNames() const;
     void ReadQueue(TextFieldReader& in);  // fills the queue from a Mixer.dat or song set
     void SelectDrive(int drive);
     void GetTitles();

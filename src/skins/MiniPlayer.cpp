@@ -1,6 +1,6 @@
 // The mini player's window: what its activation prepares, the scrolling title and the hints,
 // dragging the frameless window by hand, the transport buttons, the sliders, and the ways out.
-#include "controls/FileNames.h"
+#include "playback/SliderTravel.h"
 #include "shell/Form1.h"
 #include "shell/Form2.h"
 #include "shell/FrmGeneral.h"
@@ -24,8 +24,7 @@ void FrmMiniPlayer::Form_Activate() {
     if (!F1->mnuVU.Enabled())
         for (auto& lamp : imgVU) tryStep([&] { lamp->setVisible(false); });
     tryStep([&] { F1->lstSongSets.Clear(); });
-    for (const QString& file : matchFiles(F1->currentDirectory.path(), QStringLiteral("*.EST")))
-        tryStep([&] { F1->lstSongSets.AddItem(file.chopped(4)); });
+    for (const QString& name : F1->SongSetNames()) tryStep([&] { F1->lstSongSets.AddItem(name); });
     if (M.MiniListType == 1)
         GetSongSets();
     else
@@ -42,7 +41,7 @@ void FrmMiniPlayer::Form_Activate() {
     Timer1.setInterval(TitleInterval);
     for (auto [slider, value] : {std::pair{&SLiderVolume, std::int32_t(M.Volume)},
                                  std::pair{&SliderTreble, M.Treble}, std::pair{&SliderBass, M.Bass}})
-        tryStep([&] { slider->setTop(toInt32((100.0 - value) * M.MiniSliderStep + M.MiniSliderTop)); });
+        tryStep([&] { slider->setTop(slider::miniTopFor(M, value)); });
     tryStep([&] { CheckLoop(); });
     tryStep([&] { lstSongSets.setVisible(true); });
 }
@@ -179,12 +178,11 @@ void FrmMiniPlayer::Slider_MouseDown() { SliderDragging = true; }
 void FrmMiniPlayer::Slider_MouseUp() { SliderDragging = false; }
 
 void FrmMiniPlayer::Slider_MouseMove(ToneSlider which, double y) {
-    static const char* const names[] = {"Volume", "Treble", "Bass"};
-    tryStep([&] { ShowControl(QLatin1String(names[int(which)])); });
-    if (!SliderDragging) return;
     Image& slider = which == ToneSlider::Volume   ? SLiderVolume
                     : which == ToneSlider::Treble ? SliderTreble
                                                   : SliderBass;
+    tryStep([&] { ShowControl(slider.ToolTipText()); });
+    if (!SliderDragging) return;
     tryStep([&] {
         // The pointer's row in the window: the slider's top and the row within the slider.
         const double top = slider.Top() + y - SLiderVolume.Height() / 2;

@@ -1,20 +1,10 @@
 // The mini player's list: one page of MiniListRows rows, of the queue or of the song sets,
 // and the buttons that walk it. In queue mode the page's selection is the song: selecting a
 // row selects the main window's queue row, which loads it.
-#include "controls/FileNames.h"
 #include "shell/Form1.h"
 #include "shell/FrmMiniPlayer.h"
 
 namespace sonarium {
-
-namespace {
-// The song sets in the program's folder, by name without their extension, in the folder's order.
-std::vector<QString> songSetNames(const QString& dir) {
-    std::vector<QString> names;
-    for (const QString& file : matchFiles(dir, QStringLiteral("*.EST"))) names.push_back(file.chopped(4));
-    return names;
-}
-}  // namespace
 
 // The page from `top`: the names top + 1 to top + MiniListRows, stopping at `count`.
 void FrmMiniPlayer::ShowPage(std::int16_t top, const std::vector<QString>& names, std::int16_t count) {
@@ -49,9 +39,9 @@ void FrmMiniPlayer::GetSongSets() {
     SetNames.assign(1, QString());
     SetTop = 0;
     lstSongSets.Clear();
-    const std::vector<QString> names = songSetNames(F1->currentDirectory.path());
+    const QStringList names = F1->SongSetNames();
     SetNames.insert(SetNames.end(), names.begin(), names.end());
-    if (!names.empty()) SetNameCount = std::int16_t(std::min<std::size_t>(names.size(), INT16_MAX));
+    if (!names.empty()) SetNameCount = std::int16_t(std::min<qsizetype>(names.size(), INT16_MAX));
     ShowPage(0, SetNames, std::int16_t(names.size()));
 }
 

@@ -53,31 +53,30 @@ private:
 
 void Form1::ApplyMiniSkinFiles(const QString& dir) {
     FrmMiniPlayer& f = frmMiniPlayer;
-    const auto step = [this](const std::function<void()>& s) { tryStep(s); };
     // Nothing of the old face is seen while the new one is built.
     for (Image* lamp : {&f.Stereo, &f.Mono}) {
-        step([&] { lamp->setPicture(Picture()); });
-        step([&] { lamp->setTop(1), lamp->setLeft(1); });
+        tryStep([&] { lamp->setPicture(Picture()); });
+        tryStep([&] { lamp->setTop(1), lamp->setLeft(1); });
     }
-    step([&] { f.Move(f.Left(), f.Top(), 1, 1); });
-    step([&] { f.lstSongSets.setVisible(false); });
-    step([&] { Clip1 = C.pictures.load(dir + QStringLiteral("/Buttons.bmp")); });
-    step([&] { f.setPicture(C.pictures.load(dir + QStringLiteral("/Panel.bmp"))); });
+    tryStep([&] { f.Move(f.Left(), f.Top(), 1, 1); });
+    tryStep([&] { f.lstSongSets.setVisible(false); });
+    tryStep([&] { Clip1 = C.pictures.load(dir + QStringLiteral("/Buttons.bmp")); });
+    tryStep([&] { f.setPicture(C.pictures.load(dir + QStringLiteral("/Panel.bmp"))); });
 
     Block b;
-    const auto cut = [&](Image& c) { step([&] { c.setPicture(Clip1.cut(b.x, b.y, b.w, b.h)); }); };
-    const auto place = [&](Control& c) { step([&] { c.setLeft(b.left * Px), c.setTop(b.top * Px); }); };
+    const auto cut = [&](Image& c) { tryStep([&] { c.setPicture(Clip1.cut(b.x, b.y, b.w, b.h)); }); };
+    const auto place = [&](Control& c) { tryStep([&] { c.setLeft(b.left * Px), c.setTop(b.top * Px); }); };
     const auto standard = [&](Image& c) {
         cut(c);
         place(c);
-        step([&] { c.setVisible(b.show == 1); });
+        tryStep([&] { c.setVisible(b.show == 1); });
     };
-    const auto size = [&](Control& c) { step([&] { c.setHeight(b.h * Px), c.setWidth(b.w * Px); }); };
+    const auto size = [&](Control& c) { tryStep([&] { c.setHeight(b.h * Px), c.setWidth(b.w * Px); }); };
     // A file that can't be opened reads as an empty one: every value stays 0, so every cut
     // fails and every control goes to the top left corner, hidden.
     const auto openSkinFile = [&](const char* name) {
         TextFieldReader in{QByteArray()};
-        step([&] { in = TextFieldReader::open(dir + u'/' + QLatin1String(name)); });
+        tryStep([&] { in = TextFieldReader::open(dir + u'/' + QLatin1String(name)); });
         return in;
     };
     {
@@ -92,7 +91,7 @@ void Form1::ApplyMiniSkinFiles(const QString& dir) {
         for (const auto& [button, pressed] : transport) {
             fields.block(b);
             standard(*button);
-            step([&] { f.ImageButton[i].setPicture(button->picture()); });
+            tryStep([&] { f.ImageButton[i].setPicture(button->picture()); });
             ++i;
             fields.block(b);
             cut(*pressed);
@@ -100,7 +99,7 @@ void Form1::ApplyMiniSkinFiles(const QString& dir) {
         }
         for (Image* c : {&f.cmdUp, &f.cmdDown}) fields.block(b), standard(*c);
         fields.block(b), standard(f.SLiderVolume);
-        step([&] { M.MiniSliderTop = toInt32(double(b.top) * Px); });
+        tryStep([&] { M.MiniSliderTop = toInt32(double(b.top) * Px); });
         fields.block(b), standard(f.SliderTreble);
         M.MiniTrebleTop = b.top;
         fields.block(b), standard(f.SliderBass);
@@ -116,18 +115,18 @@ void Form1::ApplyMiniSkinFiles(const QString& dir) {
             fields.block(b), standard(*c);
         fields.block(b), cut(f.cmdLoopOn), place(f.cmdLoopOn);
         fields.block(b), place(f.Picture1);
-        step([&] { f.Picture1.setWidth(b.w * Px), f.Picture1.setVisible(b.show == 1); });
+        tryStep([&] { f.Picture1.setWidth(b.w * Px), f.Picture1.setVisible(b.show == 1); });
         for (Image* c : {&f.cmdSaveDefaults, &f.cmsSaveTB}) fields.block(b), standard(*c);
         fields.block(b), place(f.Photo), size(f.Photo);
-        step([&] { f.Photo.setVisible(b.show == 1); });
+        tryStep([&] { f.Photo.setVisible(b.show == 1); });
         fields.block(b), size(f.lstSongSets), place(f.lstSongSets);
         fields.block(b);
-        step([&] {
+        tryStep([&] {
             f.Move(f.Left(), f.Top(), toInt32(double(b.w) * Px), toInt32(double(b.h) * Px));
             M.MiniWidth = f.Width(), M.MiniHeight = f.Height();
         });
         for (Image* c : {&f.Mono, &f.Stereo}) fields.block(b), place(*c), size(*c), cut(*c);
-        if (b.show == 0) step([&] { f.Stereo.setPicture(Picture()); });
+        if (b.show == 0) tryStep([&] { f.Stereo.setPicture(Picture()); });
     }
     {
         TextFieldReader in = openSkinFile("vu.txt");
@@ -136,30 +135,30 @@ void Form1::ApplyMiniSkinFiles(const QString& dir) {
         std::int32_t left = 0, top = 0;
         for (auto& lamp : f.imgVU) {
             fields.number(left), fields.number(top);
-            step([&] { lamp->setLeft(left * Px), lamp->setTop(top * Px); });
+            tryStep([&] { lamp->setLeft(left * Px), lamp->setTop(top * Px); });
         }
         std::array<std::int32_t, 3> rgb{};
         std::int32_t n = 0;
-        fields.label(), step([&] { f.Picture1.setBackColor(fields.colour(rgb)); });
-        fields.label(), step([&] { f.Picture1.setForeColor(fields.colour(rgb)); });
-        fields.label(), fields.number(n), step([&] { f.Picture1.setFontSize(n); });
-        fields.label(), fields.number(n), step([&] { f.Picture1.setFontBold(n == 1); });
-        fields.label(), step([&] { f.lstSongSets.setBackColor(fields.colour(rgb)); });
-        fields.label(), step([&] { f.lstSongSets.setForeColor(fields.colour(rgb)); });
+        fields.label(), tryStep([&] { f.Picture1.setBackColor(fields.colour(rgb)); });
+        fields.label(), tryStep([&] { f.Picture1.setForeColor(fields.colour(rgb)); });
+        fields.label(), fields.number(n), tryStep([&] { f.Picture1.setFontSize(n); });
+        fields.label(), fields.number(n), tryStep([&] { f.Picture1.setFontBold(n == 1); });
+        fields.label(), tryStep([&] { f.lstSongSets.setBackColor(fields.colour(rgb)); });
+        fields.label(), tryStep([&] { f.lstSongSets.setForeColor(fields.colour(rgb)); });
         fields.label(), fields.number(M.MiniSliderTravel);
-        fields.label(), fields.number(n), step([&] { M.MiniCollapsedSize = toInt32(double(n) * Px); });
-        fields.label(), fields.number(n), step([&] { M.MiniCollapseHeight = toInt16(n); });
+        fields.label(), fields.number(n), tryStep([&] { M.MiniCollapsedSize = toInt32(double(n) * Px); });
+        fields.label(), fields.number(n), tryStep([&] { M.MiniCollapseHeight = toInt16(n); });
         fields.label(), fields.number(M.MiniListRows);
     }
     // A list of no rows is five; one longer than the queue can be is cut to the queue's size.
     if (M.MiniListRows <= 0) M.MiniListRows = 5;
     M.MiniListRows = std::min<std::int32_t>(M.MiniListRows, SongPathSize);
-    step([&] {
+    tryStep([&] {
         M.MiniSliderBottom =
             toInt32(double(f.SLiderVolume.Top()) + double(M.MiniSliderTravel) * Px - f.SLiderVolume.Height());
         M.MiniSliderStep = (double(M.MiniSliderBottom) - M.MiniSliderTop) / 100;
     });
-    for (auto& lamp : f.imgVU) step([&] { lamp->setPicture(f.imgVUPurple.picture()); });
+    for (auto& lamp : f.imgVU) tryStep([&] { lamp->setPicture(f.imgVUPurple.picture()); });
 }
 
 // The digit strip: cells of w pixels with a blank column between them, 0 to 9, then the colon

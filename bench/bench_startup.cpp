@@ -83,7 +83,7 @@ int runProgram(int argc, char** argv, bool click) {
     Application::prepareProcess();
     QApplication app(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    Application program(QStringList{QStringLiteral("sonarium")}, QDir::currentPath());
+    Application program(QString(), QDir::currentPath());
     program.start();
     // Started: the main window is up and the splash is gone, so the entry procedure is over
     // (its splash lets events through, so a timer can fire inside it).

@@ -9,9 +9,12 @@ BUILD_PACKAGES=(cmake ninja-build g++ pkg-config qt6-base-dev libgl-dev libegl-d
                 libmpg123-dev libsoundtouch-dev libpulse-dev libasound2-dev libsqlite3-dev
                 libmp3lame-dev libsndfile1-dev libcdio-dev libcdio-paranoia-dev lame
                 libgtest-dev fonts-dejavu-core xdg-utils)
-# What the tests and benchmarks need beyond that: reference tools, fixtures' encoder, fuzzing.
+# What making the Debian package needs beyond that: the shared libraries' packages and ELF files.
+PACKAGE_PACKAGES=(dpkg-dev file)
+# What the tests and benchmarks need beyond that: reference tools, fixtures' encoder, fuzzing,
+# the package and the desktop's validators.
 TEST_PACKAGES=(xvfb xauth mpg123 lame cd-paranoia id3v2 clang libclang-rt-14-dev dbus playerctl sqlite3
-               clang-format enscript)
+               clang-format enscript "${PACKAGE_PACKAGES[@]}" desktop-file-utils appstream)
 
 as_root() {
     if [ "$(id -u)" -eq 0 ]; then "$@"; else sudo "$@"; fi

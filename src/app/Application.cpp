@@ -26,9 +26,7 @@ void Application::prepareProcess() {
     QGuiApplication::setHighDpiScaleFactorRoundingPolicy(Qt::HighDpiScaleFactorRoundingPolicy::Round);
 }
 
-QString commandLineOf(const QStringList& arguments) { return arguments.mid(1).join(QLatin1Char(' ')); }
-
-Application::Application(const QStringList& arguments, const QString& startDir)
+Application::Application(const QString& commandLine, const QString& startDir)
     : loop_(errors_),
       mp3_(loop_, createAudioSink, tone_, peakLevel_),
       mp32_(loop_, createAudioSink, tone_, peakLevel_),
@@ -36,7 +34,7 @@ Application::Application(const QStringList& arguments, const QString& startDir)
       peak_(peakLevel_),
       // clang-format off
       components_{loop_, dialogs_, desktop_, pictures_, volumes_, mp3_, mp32_, encoder_, cd_, mixer_, peak_,
-                  data_, processes_, errors_, commandLineOf(arguments), startDir},
+                  data_, processes_, errors_, commandLine, startDir},
       // clang-format on
       program_(components_),
       views_(program_),

@@ -4,10 +4,11 @@
 // them. No singletons: each part is handed what it needs.
 // SIGTERM, SIGINT and SIGHUP save the settings and end the program at once, whatever it is
 // doing; the window's own close keeps its wait for the song.
-#include <QStringList>
+#include <QString>
 #include <memory>
 
 #include "app/DebugErrorLog.h"
+#include "app/StartFolder.h"
 #include "controls/Components.h"
 #include "engine/EngineMixer.h"
 #include "engine/EnginePeakMeter.h"
@@ -38,9 +39,9 @@ public:
     // high-DPI factors are rounded so skin pieces keep whole pixels.
     static void prepareProcess();
 
-    // `arguments` as the process got them, the program's name first; `startDir` the directory
-    // the program starts in, where its own files live.
-    Application(const QStringList& arguments, const QString& startDir);
+    // `commandLine` the song name the program was given, if any; `startDir` the directory the
+    // program starts in, where its own files live.
+    Application(const QString& commandLine, const QString& startDir);
     ~Application();
 
     // Runs the program's entry procedure once the event loop is running. The process ends
@@ -53,7 +54,7 @@ private:
     DebugErrorLog errors_;
     QtEventLoop loop_;
     QtDialogs dialogs_;
-    QtDesktop desktop_;
+    QtDesktop desktop_{sharedFile(QStringLiteral("help/index.html"))};
     QtPictureLoader pictures_;
     LinuxVolumes volumes_;
     // Treble and bass, and the peak level, are shared by both players' output paths.
@@ -80,9 +81,5 @@ private:
 // user's own QT_QPA_PLATFORM: "xcb" on a Wayland session the user left alone, else nothing.
 QByteArray platformFor(const QByteArray& sessionType, const QByteArray& waylandDisplay,
                        const QByteArray& userPlatform);
-
-// The command line as the program takes it: the arguments after the program's name, joined
-// by single blanks.
-QString commandLineOf(const QStringList& arguments);
 
 }  // namespace sonarium

@@ -1,5 +1,5 @@
 #pragma once
-// The program's built-in files (help page, default skin) live in a static library's resources;
+// The program's built-in files (the default skins) live in a static library's resources;
 // this registers them, and must run before the first of them is read. Calling it again is
 // harmless.
 namespace sonarium {

@@ -3,18 +3,14 @@
 #include <QCoreApplication>
 #include <QCursor>
 #include <QDesktopServices>
-#include <QDir>
-#include <QFile>
+#include <QFileInfo>
 #include <QFontDatabase>
 #include <QGuiApplication>
-#include <QSaveFile>
 #include <QScreen>
-#include <QStandardPaths>
 #include <QThread>
 #include <QUrl>
 
 #include "controls/Picture.h"
-#include "ui/Assets.h"
 
 namespace sonarium {
 
@@ -45,19 +41,7 @@ bool QtDesktop::openDocument(const QString& file) {
     return QDesktopServices::openUrl(QUrl::fromLocalFile(file));
 }
 
-bool QtDesktop::openHelp() {
-    initAssets();
-    QFile page(QStringLiteral(":/help/index.html"));
-    if (!page.open(QIODevice::ReadOnly)) return false;
-    QString dir = QStandardPaths::writableLocation(QStandardPaths::CacheLocation);
-    if (dir.isEmpty()) dir = QDir::tempPath() + QStringLiteral("/sonarium");
-    dir += QStringLiteral("/help");
-    if (!QDir().mkpath(dir)) return false;
-    // Written whole under a temporary name and renamed, so a viewer never sees half a page.
-    QSaveFile copy(dir + QStringLiteral("/index.html"));
-    if (!copy.open(QIODevice::WriteOnly) || copy.write(page.readAll()) < 0 || !copy.commit()) return false;
-    return openDocument(copy.fileName());
-}
+bool QtDesktop::openHelp() { return QFileInfo::exists(helpPage_) && openDocument(helpPage_); }
 
 void QtDesktop::quit(int exitCode) {
     QMetaObject::invokeMethod(

@@ -9,22 +9,30 @@
 #include <signal.h>
 
 #include <QApplication>
+#include <QDir>
 #include <QLabel>
 #include <QProcess>
 #include <QTimer>
 
 #include "ProgramFixture.h"
 #include "app/Application.h"
+#include "app/StartFolder.h"
 #include "ui/MainWindow.h"
 
 namespace {
 
 using namespace sonarium;
 
-// The arguments are one name with its blanks; a Wayland session gets the X11 platform unless
-// the user chose one.
-TEST(Startup, CommandLineAndPlatform) {
-    EXPECT_EQ(commandLineOf({"sonarium", "/music/My", "Song.mp3"}), "/music/My Song.mp3");
+// The arguments are one name with its blanks, made absolute against the folder the program
+// was launched from; its own folder is SONARIUM_HOME, relative to that folder too, else
+// ~/Sonarium. A Wayland session gets the X11 platform unless the user chose one.
+TEST(Startup, CommandLineFolderAndPlatform) {
+    EXPECT_EQ(commandLineOf({"sonarium", "/music/My", "Song.mp3"}, "/home/u"), "/music/My Song.mp3");
+    EXPECT_EQ(commandLineOf({"sonarium", "../Music/A", "b.mp3"}, "/home/u/x"), "/home/u/Music/A b.mp3");
+    EXPECT_EQ(commandLineOf({"sonarium"}, "/home/u"), "");
+    EXPECT_EQ(startFolderFor("", "/home/u", "/tmp"), "/home/u/Sonarium");
+    EXPECT_EQ(startFolderFor("Jukebox/", "/home/u", "/tmp"), "/tmp/Jukebox");
+    EXPECT_EQ(startFolderFor("/srv/music", "/home/u", "/tmp"), "/srv/music");
     EXPECT_EQ(platformFor("", "wayland-0", ""), "xcb");
     EXPECT_EQ(platformFor("wayland", "wayland-0", "wayland"), "");
 }
@@ -32,12 +40,12 @@ TEST(Startup, CommandLineAndPlatform) {
 // The real program; the program fixture serves for its temporary folder and file helpers.
 class ProgramProcess : public ProgramFixture {
 protected:
-    // Config.dat's twelve lines and Mixer.dat's levels and queue, each whole.
-    void expectSettingsSavedWith(const QString& queuedTitle) {
-        const QByteArray config = read("Config.dat");
+    // Config.dat's twelve lines and Mixer.dat's levels and queue, each whole, in `folder`.
+    void expectSettingsSavedWith(const QString& queuedTitle, const QString& folder = ".") {
+        const QByteArray config = read(folder + "/Config.dat");
         EXPECT_EQ(config.count("\r\n"), 12) << config.constData();
         EXPECT_TRUE(config.endsWith("\r\n"));
-        const QByteArray mixer = read("Mixer.dat");
+        const QByteArray mixer = read(folder + "/Mixer.dat");
         EXPECT_TRUE(mixer.endsWith("\r\n")) << mixer.constData();
         EXPECT_TRUE(mixer.contains(queuedTitle.toUtf8())) << mixer.constData();
     }
@@ -58,7 +66,7 @@ TEST_F(ProgramProcess, ASongPlaysAndTheWindowsCloseEndsTheProgram) {
     bool closeRefused = false;
     int exitCode = -1;
     {
-        Application application({"sonarium", path("Tone.MP3")}, dir.path());
+        Application application(path("Tone.MP3"), dir.path());
         MainWindow& window = application.views().main();
         application.start();
         // Once the song has played a second, the user closes the window.
@@ -83,19 +91,26 @@ TEST_F(ProgramProcess, ASongPlaysAndTheWindowsCloseEndsTheProgram) {
     expectSettingsSavedWith("Tone");
 }
 
-TEST_F(ProgramProcess, AModalQuestionDoesNotHoldOffTheEnd) {
+// Launched from another folder with a relative song name, as a terminal or a file manager
+// does, the program keeps its files in ~/Sonarium, made for it, and leaves the launch folder
+// alone.
+TEST_F(ProgramProcess, ItsOwnFolderAndAModalQuestionDoesNotHoldOffTheEnd) {
+    ASSERT_TRUE(QDir(dir.path()).mkpath("launch") && QDir(dir.path()).mkpath("user"));
     QProcess process;  // killed as it goes, should it outlive the test
     QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
     env.insert("QT_QPA_PLATFORM", "offscreen");
     env.insert("SONARIUM_AUDIO", "null");
+    env.insert("HOME", path("user"));
+    env.remove("SONARIUM_HOME");
     env.remove("DBUS_SESSION_BUS_ADDRESS");  // no media controls
     process.setProcessEnvironment(env);
-    process.setWorkingDirectory(dir.path());
+    process.setWorkingDirectory(path("launch"));
     process.setProcessChannelMode(QProcess::ForwardedChannels);
-    // A song that isn't there, named on the command line: "Open failed ... Retry?" stays up.
-    process.start(QStringLiteral(SONARIUM_PROGRAM), {path("Missing.MP3")});
+    // A song that isn't there: "Open failed ... Retry?" stays up.
+    process.start(QStringLiteral(SONARIUM_PROGRAM), {"Missing.MP3"});
     ASSERT_TRUE(process.waitForStarted());
-    ASSERT_TRUE(QTest::qWaitFor([&] { return read("Debug.dat").contains("Init 7"); }, 20000));
+    const QString own = "user/Sonarium";
+    ASSERT_TRUE(QTest::qWaitFor([&] { return read(own + "/Debug.dat").contains("Init 7"); }, 20000));
     QTest::qSleep(300);
     ASSERT_EQ(process.state(), QProcess::Running);
 
@@ -104,7 +119,11 @@ TEST_F(ProgramProcess, AModalQuestionDoesNotHoldOffTheEnd) {
     ASSERT_TRUE(process.waitForFinished(5000));
     EXPECT_EQ(process.exitStatus(), QProcess::NormalExit);
     EXPECT_EQ(process.exitCode(), 0);
-    expectSettingsSavedWith("Missing");
+    expectSettingsSavedWith("Missing", own);
+    EXPECT_TRUE(read(own + "/Mixer.dat").contains((path("launch") + "/\r\n").toUtf8()));
+    EXPECT_TRUE(QFile::exists(path(own + "/SonariumData.mdb")));
+    EXPECT_TRUE(QDir(path("launch")).isEmpty());
+    EXPECT_EQ(QDir(path("user")).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList{"Sonarium"});
 }
 
 }  // namespace

@@ -1,0 +1,34 @@
+#include "app/StartFolder.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFileInfo>
+
+namespace sonarium {
+
+QString startFolderFor(const QString& sonariumHome, const QString& userHome, const QString& launchDir) {
+    if (!sonariumHome.isEmpty()) return QDir::cleanPath(QDir(launchDir).absoluteFilePath(sonariumHome));
+    return QDir::cleanPath(userHome + QStringLiteral("/Sonarium"));
+}
+
+QString enterStartFolder(const QString& folder) {
+    if (!QDir().mkpath(folder))
+        return QStringLiteral("Sonarium cannot make the folder for its files, %1.").arg(folder);
+    if (!QFileInfo(folder).isWritable() || !QDir::setCurrent(folder))
+        return QStringLiteral("Sonarium cannot keep its files in %1: the folder cannot be written.")
+            .arg(folder);
+    return {};
+}
+
+QString commandLineOf(const QStringList& arguments, const QString& launchDir) {
+    const QString line = arguments.mid(1).join(QLatin1Char(' '));
+    if (line.isEmpty() || QDir::isAbsolutePath(line)) return line;
+    return QDir::cleanPath(launchDir + QLatin1Char('/') + line);
+}
+
+QString sharedFile(const QString& name) {
+    return QDir::cleanPath(QCoreApplication::applicationDirPath() +
+                           QStringLiteral("/" SONARIUM_DATA_FROM_BIN "/") + name);
+}
+
+}  // namespace sonarium

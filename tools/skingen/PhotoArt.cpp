@@ -8,23 +8,20 @@
 
 namespace sonarium::skingen {
 
-void paintPhotoArt(QPainter& p, const QRect& r, const Theme& t) {
-    QRadialGradient back(QPointF(r.width() * 0.3, r.height() * 0.45), r.width() * 0.8);
-    back.setColorAt(0, t.glassTop.lighter(135));
-    back.setColorAt(1, t.glass);
-    p.fillRect(r, back);
-
+void paintRecord(QPainter& p, QPointF centre, double radius, const Theme& t, const QColor& label,
+                 bool grooves) {
+    // Every measure was first set on a record of radius 52 and scales with it.
+    const double s = radius / 52;
     p.save();
     p.setRenderHint(QPainter::Antialiasing, true);
-    const QPointF centre(60, 64);
-    const double radius = 52;
-    // The record: black vinyl, its grooves, a soft sheen across, and the label.
+    // Black vinyl, its grooves, a soft sheen across, and the label.
     p.setPen(QPen(QColor(0, 0, 0, 160), 1));
     p.setBrush(QColor(0x0a, 0x0a, 0x0b));
     p.drawEllipse(centre, radius, radius);
     p.setBrush(Qt::NoBrush);
-    for (double g = radius - 4; g > 22; g -= 2.5) {
-        p.setPen(QPen(QColor(255, 255, 255, int(g) % 5 == 0 ? 22 : 12), 1));
+    int k = 0;
+    for (double g = radius - 4 * s; grooves && g > 22 * s; g -= 2.5 * s, ++k) {
+        p.setPen(QPen(QColor(255, 255, 255, k % 2 ? 22 : 12), s));
         p.drawEllipse(centre, g, g);
     }
     QConicalGradient sheen(centre, 45);
@@ -37,18 +34,32 @@ void paintPhotoArt(QPainter& p, const QRect& r, const Theme& t) {
     sheen.setColorAt(1, QColor(255, 255, 255, 0));
     p.setPen(Qt::NoPen);
     p.setBrush(sheen);
-    p.drawEllipse(centre, radius - 3, radius - 3);
-    QRadialGradient label(centre - QPointF(4, 5), 22);
-    label.setColorAt(0, t.amber.lighter(125));
-    label.setColorAt(1, t.amber.darker(135));
-    p.setBrush(label);
-    p.drawEllipse(centre, 18, 18);
-    p.setPen(QPen(t.amber.darker(200), 1));
-    p.setBrush(Qt::NoBrush);
-    p.drawEllipse(centre, 12, 12);
-    p.setPen(Qt::NoPen);
+    p.drawEllipse(centre, radius - 3 * s, radius - 3 * s);
+    QRadialGradient face(centre - QPointF(4, 5) * s, 22 * s);
+    face.setColorAt(0, label.lighter(125));
+    face.setColorAt(1, label.darker(135));
+    p.setBrush(face);
+    p.drawEllipse(centre, 18 * s, 18 * s);
+    if (grooves) {
+        p.setPen(QPen(label.darker(200), s));
+        p.setBrush(Qt::NoBrush);
+        p.drawEllipse(centre, 12 * s, 12 * s);
+        p.setPen(Qt::NoPen);
+    }
     p.setBrush(t.glass);
-    p.drawEllipse(centre, 2.5, 2.5);
+    p.drawEllipse(centre, 2.5 * s, 2.5 * s);
+    p.restore();
+}
+
+void paintPhotoArt(QPainter& p, const QRect& r, const Theme& t) {
+    QRadialGradient back(QPointF(r.width() * 0.3, r.height() * 0.45), r.width() * 0.8);
+    back.setColorAt(0, t.glassTop.lighter(135));
+    back.setColorAt(1, t.glass);
+    p.fillRect(r, back);
+
+    p.save();
+    p.setRenderHint(QPainter::Antialiasing, true);
+    paintRecord(p, QPointF(60, 64), 52, t, t.amber, true);
 
     // The name, with a thin line of the theme's light under it.
     QFont name = pixelFont(22, true, true);

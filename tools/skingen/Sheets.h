@@ -49,5 +49,9 @@ QStringList overlappingCuts();
 // The top deck and the no-photo picture, each drawn in a file of its own.
 void paintTopPanel(QPainter& p, const QRect& r, const Theme& t);
 void paintPhotoArt(QPainter& p, const QRect& r, const Theme& t);
+// The no-photo picture's record, also the program's icon's: a vinyl disc of `radius` around
+// `centre` with a `label` in its middle; without `grooves` (for small sizes) it is plain vinyl.
+void paintRecord(QPainter& p, QPointF centre, double radius, const Theme& t, const QColor& label,
+                 bool grooves);
 
 }  // namespace sonarium::skingen

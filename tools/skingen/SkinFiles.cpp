@@ -8,21 +8,25 @@
 namespace sonarium::skingen {
 
 bool saveBitmap(const QImage& image, const QString& path, QString& error) {
+    return saveImage(image.convertToFormat(QImage::Format_RGB888), path, "BMP", error);
+}
+
+bool saveImage(const QImage& image, const QString& path, const char* format, QString& error) {
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly)) {
         error = QStringLiteral("cannot write %1: %2").arg(path, file.errorString());
         return false;
     }
-    QImageWriter writer(&file, "BMP");
-    if (!writer.write(image.convertToFormat(QImage::Format_RGB888)) || !file.commit()) {
+    QImageWriter writer(&file, format);
+    if (!writer.write(image) || !file.commit()) {
         error = QStringLiteral("cannot write %1: %2").arg(path, writer.errorString());
         return false;
     }
     return true;
 }
 
-bool checkBitmap(const QImage& drawn, const QString& path, QString& error) {
-    QImageReader reader(path, "BMP");
+bool checkImage(const QImage& drawn, const QString& path, QString& error) {
+    QImageReader reader(path);
     const QImage back = reader.read();
     if (back.isNull()) {
         error = QStringLiteral("%1 does not load back: %2").arg(path, reader.errorString());
@@ -37,7 +41,8 @@ bool checkBitmap(const QImage& drawn, const QString& path, QString& error) {
                     .arg(drawn.height());
         return false;
     }
-    if (back.convertToFormat(QImage::Format_RGB32) != drawn.convertToFormat(QImage::Format_RGB32)) {
+    const auto format = drawn.hasAlphaChannel() ? QImage::Format_ARGB32 : QImage::Format_RGB32;
+    if (back.convertToFormat(format) != drawn.convertToFormat(format)) {
         error = QStringLiteral("%1 loads back with different pixels").arg(path);
         return false;
     }

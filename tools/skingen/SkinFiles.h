@@ -10,8 +10,11 @@ namespace sonarium::skingen {
 
 // `image` as a 24-bit BMP at `path`; false with `error` set when it cannot be written.
 bool saveBitmap(const QImage& image, const QString& path, QString& error);
-// The bitmap on disk has the drawing's size and every one of its pixels.
-bool checkBitmap(const QImage& drawn, const QString& path, QString& error);
+// `image` as it is, in the file format `format` ("PNG" keeps its transparency).
+bool saveImage(const QImage& image, const QString& path, const char* format, QString& error);
+// The image on disk has the drawing's size and every one of its pixels, with their alpha when
+// the drawing has any.
+bool checkImage(const QImage& drawn, const QString& path, QString& error);
 // `text` at `path`, written whole and read back byte for byte.
 bool saveText(const QByteArray& text, const QString& path, QString& error);
 

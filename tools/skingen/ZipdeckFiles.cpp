@@ -118,7 +118,7 @@ bool writeSkin(const Theme& t, const QString& dir, const QString& previewDir, QS
     }
     for (const auto& [name, image] : {std::pair{"/Panel.bmp", &panel}, std::pair{"/Buttons.bmp", &sheet}})
         if (!saveBitmap(*image, dir + QLatin1String(name), error) ||
-            !checkBitmap(*image, dir + QLatin1String(name), error))
+            !checkImage(*image, dir + QLatin1String(name), error))
             return false;
     if (!saveText(coords, dir + QStringLiteral("/CoOrds.txt"), error) ||
         !saveText(vu, dir + QStringLiteral("/vu.txt"), error))

@@ -1,9 +1,10 @@
 // skingen: draws a complete main skin (PanelDatabase.bmp, Panels.bmp, Buttons.bmp, Colors.txt)
 // into a directory, from the table of rectangles that the skin loader cuts by; or, with
 // "zipdeck" first, the mini player's skin (Panel.bmp, Buttons.bmp, CoOrds.txt, vu.txt) from its
-// layout table.
+// layout table; or, with "icon", the program's icon at every hicolor size in the Default look.
 //
 //   skingen [zipdeck] <theme> <outdir> [previewdir]
+//   skingen icon <outdir> [previewdir]
 //
 // Each file is written under a temporary name and renamed into place, then read back and
 // compared with what was drawn, so a skin on disk is either whole and right or not replaced.
@@ -13,6 +14,7 @@
 #include <cstdio>
 #include <exception>
 
+#include "Icon.h"
 #include "Paint.h"
 #include "Preview.h"
 #include "Sheets.h"
@@ -65,7 +67,7 @@ bool writeSkin(const Theme& t, const QString& dir, const QString& previewDir) {
                                                                   {mainskin::ButtonsFile, &sheets.buttons}};
     for (const auto& [name, image] : bitmaps) {
         const QString path = dir + u'/' + QLatin1String(name.data(), qsizetype(name.size()));
-        if (!saveBitmap(*image, path, error) || !checkBitmap(*image, path, error)) {
+        if (!saveBitmap(*image, path, error) || !checkImage(*image, path, error)) {
             say(QStringLiteral("skingen: ") + error);
             return false;
         }
@@ -93,10 +95,22 @@ int main(int argc, char** argv) {
     if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
     QGuiApplication app(argc, argv);
     QStringList args = app.arguments();
+    if (args.size() > 1 && args[1] == QStringLiteral("icon")) {
+        // The icon belongs to the built-in look, whatever skin is chosen later.
+        Theme theme;
+        QString error;
+        if (args.size() >= 3 && args.size() <= 4 && themeByName(QStringLiteral("Default"), theme) &&
+            writeIcons(theme, args[2], args.value(3), error))
+            return 0;
+        say(error.isEmpty() ? QStringLiteral("usage: skingen icon <outdir> [previewdir]")
+                            : QStringLiteral("skingen: ") + error);
+        return error.isEmpty() ? 2 : 1;
+    }
     const bool zipdeck = args.size() > 1 && args[1] == QStringLiteral("zipdeck");
     if (zipdeck) args.removeAt(1);
     if (args.size() < 3 || args.size() > 4) {
-        say(QStringLiteral("usage: skingen [zipdeck] <theme> <outdir> [previewdir]\nthemes: %1")
+        say(QStringLiteral("usage: skingen [zipdeck] <theme> <outdir> [previewdir]\n       skingen icon "
+                           "<outdir> [previewdir]\nthemes: %1")
                 .arg(themeNames().join(u' ')));
         return 2;
     }

@@ -3,11 +3,23 @@
 // until the program asks the desktop to quit.
 #include <QApplication>
 #include <QDir>
+#include <QIcon>
 #include <QMessageBox>
 #include <cstdio>
 
 #include "app/Application.h"
 #include "app/StartFolder.h"
+
+namespace {
+
+QIcon builtInIcon() {
+    QIcon icon;
+    for (const char* size : {"32x32", "64x64", "256x256"})
+        icon.addFile(QStringLiteral(":/icons/hicolor/%1/apps/sonarium.png").arg(QLatin1String(size)));
+    return icon;
+}
+
+}  // namespace
 
 int main(int argc, char** argv) {
     sonarium::Application::prepareProcess();
@@ -16,6 +28,8 @@ int main(int argc, char** argv) {
     QApplication::setApplicationVersion(QStringLiteral(SONARIUM_VERSION));
     // The desktop entry's name: the desktop matches the windows to the entry and its icon.
     QGuiApplication::setDesktopFileName(QStringLiteral("sonarium"));
+    // The installed icon theme's, else the copy built into the program (a build tree's run).
+    QApplication::setWindowIcon(QIcon::fromTheme(QStringLiteral("sonarium"), builtInIcon()));
     // Windows come and go with the forms; closing the last one must not end the process.
     QApplication::setQuitOnLastWindowClosed(false);
 

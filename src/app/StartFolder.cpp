@@ -13,10 +13,9 @@ QString startFolderFor(const QString& sonariumHome, const QString& userHome, con
 
 QString enterStartFolder(const QString& folder) {
     if (!QDir().mkpath(folder))
-        return QStringLiteral("Sonarium cannot make the folder for its files, %1.").arg(folder);
+        return QStringLiteral("Sonarium cannot make %1, the folder for its files.").arg(folder);
     if (!QFileInfo(folder).isWritable() || !QDir::setCurrent(folder))
-        return QStringLiteral("Sonarium cannot keep its files in %1: the folder cannot be written.")
-            .arg(folder);
+        return QStringLiteral("Sonarium cannot write in %1, the folder for its files.").arg(folder);
     return {};
 }
 

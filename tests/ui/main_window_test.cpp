@@ -67,6 +67,9 @@ TEST_F(MainWindowTest, TheSplashTheNamesForReadersTheMenusAndAbout) {
     });
     main().menus().actionOf(form1().mnuAbout)->trigger();
     EXPECT_TRUE(seen);
+    // A separator is a line: styles show a separator's text as a titled section.
+    const QAction* line = main().menus().actionOf(form1().mnuFileSep1);
+    EXPECT_TRUE(line->isSeparator() && line->text().isEmpty());
     EXPECT_FALSE(views->general().isVisible());
     // The window manager gives the focus back; the offscreen platform has none, so the test does.
     main().activateWindow();

@@ -49,7 +49,9 @@ void MenuBarBinder::sync(const Bound& b) {
     const bool wasVisible = a.isVisible();
     a.setSeparator(item.isSeparator());
     if (b.menu) b.menu->setTitle(item.Caption());
-    if (a.text() != item.Caption()) a.setText(item.Caption());
+    // A separator keeps no text: styles draw a separator with text as a titled section.
+    const QString text = item.isSeparator() ? QString() : item.Caption();
+    if (a.text() != text) a.setText(text);
     if (!b.menu) {
         a.setCheckable(item.Checked());
         a.setChecked(item.Checked());
